@@ -1,0 +1,41 @@
+#include "platform/ui/Desktop.h"
+
+#include "platform/Error.h"
+
+namespace quillmere::ui {
+
+namespace {
+
+Desktop* chosenDesktop = nullptr;
+
+} // namespace
+
+void Desktop::showModal(Form& form) {
+    form.load();
+    if (!form.isLoaded()) return;
+    open_.push_back(&form);
+    try {
+        form.show();
+        if (form.isOpen()) runModal(form);
+    } catch (...) {
+        open_.pop_back();
+        form.unload();
+        throw;
+    }
+    open_.pop_back();
+}
+
+void Desktop::sendKeys(std::string_view sequence) {
+    if (Form* form = front(); form != nullptr) form->postKeys(parseKeys(sequence));
+}
+
+Desktop& desktop() {
+    if (chosenDesktop == nullptr) {
+        throw Error(Failure::ObjectNotSet, "没有选择用户界面。请先选择一个界面工具包。", "Quillmere");
+    }
+    return *chosenDesktop;
+}
+
+void useDesktop(Desktop* desktop) { chosenDesktop = desktop; }
+
+} // namespace quillmere::ui

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "platform/ui/Form.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillmere::ui {
+
+enum class Buttons { Ok, YesNo };
+enum class Icon { None, Information, Warning, Question, Error };
+enum class Answer { Ok, Yes, No };
+
+struct MessageBox {
+    std::string text;
+    std::string title;
+    Buttons buttons = Buttons::Ok;
+    Icon icon = Icon::None;
+};
+
+struct FileDialog {
+    /// "text|pattern" pairs.
+    std::string filter;
+    std::string directory;
+};
+
+/// The screen and the person before it: the one service that the system asks of a toolkit.
+class Desktop {
+public:
+    Desktop() = default;
+    Desktop(const Desktop&) = delete;
+    Desktop& operator=(const Desktop&) = delete;
+    virtual ~Desktop() = default;
+
+    /// Shows a message and returns the button pressed. Closing a yes-no box by its frame is No.
+    virtual Answer msgBox(const MessageBox& box) = 0;
+
+    /// Loads the form, shows it and returns when it has closed. A form that unloads itself while
+    /// loading is not shown. What an event of the form threw comes out here, with the form closed.
+    void showModal(Form& form);
+
+    /// The chosen path, empty when the dialog was cancelled.
+    virtual std::string openFile(const FileDialog& dialog) = 0;
+
+    virtual void beep() = 0;
+
+    /// Injects keys into the form in front; they run after the event that is running.
+    void sendKeys(std::string_view sequence);
+
+    /// The form in front, none when none is open.
+    [[nodiscard]] Form* front() const { return open_.empty() ? nullptr : open_.back(); }
+
+protected:
+    /// Shows the form and works until it is no longer open.
+    virtual void runModal(Form& form) = 0;
+
+private:
+    std::vector<Form*> open_;
+};
+
+/// The desktop that the system uses. Raises ObjectNotSet when the host has chosen none.
+[[nodiscard]] Desktop& desktop();
+/// Chooses it; the caller keeps ownership, and takes it back with a null pointer.
+void useDesktop(Desktop* desktop);
+
+} // namespace quillmere::ui

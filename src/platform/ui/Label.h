@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/ui/Control.h"
+
+namespace quillmere::ui {
+
+class Label : public Control {
+public:
+    explicit Label(std::string name, std::string caption = {})
+        : Control(Kind::Label, std::move(name)), caption_(std::move(caption)) {}
+
+    [[nodiscard]] const std::string& Caption() const { return caption_; }
+    void setCaption(std::string caption);
+    [[nodiscard]] bool FontBold() const { return bold_; }
+    void setFontBold(bool bold);
+    /// Font family; empty for that of the window.
+    [[nodiscard]] const std::string& FontName() const { return fontName_; }
+    void setFontName(std::string name);
+
+    [[nodiscard]] std::optional<std::string> property(std::string_view name) const override;
+
+private:
+    std::string caption_;
+    std::string fontName_;
+    bool bold_ = false;
+};
+
+} // namespace quillmere::ui

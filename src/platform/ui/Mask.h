@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace quillmere::ui {
+
+/// The editing of a text under a mask, where "#" takes a digit and every other character stands for
+/// itself. Typing writes over; what is not filled shows the prompt character. Full-width digits are
+/// digits. Positions are in characters.
+class Mask {
+public:
+    Mask(std::string_view mask, char32_t prompt);
+
+    /// The mask with every "#" replaced by the prompt character.
+    [[nodiscard]] std::u32string empty() const;
+
+    struct State {
+        std::u32string text;
+        std::size_t caret = 0;
+        std::size_t selected = 0;
+    };
+
+    /// A digit goes to the next digit position; a literal of the mask moves the caret behind its
+    /// next place, so that "1990年3月" can be typed as it reads. Anything else changes nothing.
+    void type(State& state, char32_t character) const;
+    void backspace(State& state) const;
+    void erase(State& state) const;
+    /// As typed, with any run of other characters ("-", "/", ".") moving on to the next group.
+    void paste(State& state, std::u32string_view text) const;
+
+    [[nodiscard]] static bool isDigit(char32_t character);
+    /// The ASCII form of a full-width digit.
+    [[nodiscard]] static char32_t toDigit(char32_t character);
+
+private:
+    [[nodiscard]] bool takesDigit(std::size_t position) const;
+    [[nodiscard]] std::size_t nextDigitPosition(std::size_t from) const;
+    [[nodiscard]] std::size_t nextGroup(std::size_t from) const;
+    void fit(State& state) const;
+    void clearSelection(State& state) const;
+
+    std::u32string mask_;
+    char32_t prompt_;
+};
+
+} // namespace quillmere::ui

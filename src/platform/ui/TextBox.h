@@ -1,0 +1,60 @@
+#pragma once
+
+#include "platform/ui/Colour.h"
+#include "platform/ui/Control.h"
+
+#include <cstddef>
+
+namespace quillmere::ui {
+
+/// A box for text, on one line or many. Positions and lengths are in characters.
+class TextBox : public Control {
+public:
+    explicit TextBox(std::string name) : Control(Kind::TextBox, std::move(name)) {}
+
+    [[nodiscard]] const std::string& Text() const { return text_; }
+    /// Raises Change when the text differs. MaxLength does not bind a program.
+    void setText(std::string text);
+    [[nodiscard]] bool Locked() const { return locked_; }
+    void setLocked(bool locked);
+    /// Most characters that a person may enter, 0 for no limit.
+    [[nodiscard]] std::size_t MaxLength() const { return maxLength_; }
+    void setMaxLength(std::size_t length);
+    [[nodiscard]] bool MultiLine() const { return multiLine_; }
+    void setMultiLine(bool multiLine) { multiLine_ = multiLine; }
+    [[nodiscard]] Colour BackColor() const { return backColor_; }
+    void setBackColor(Colour colour);
+    [[nodiscard]] std::size_t SelStart() const { return selStart_; }
+    [[nodiscard]] std::size_t SelLength() const { return selLength_; }
+    void setSelection(std::size_t start, std::size_t length);
+
+    /// A person edited the text in the toolkit's own editor: what it holds now, and where the caret
+    /// is. A locked box, or a text longer than MaxLength allows, keeps its text; the view is told.
+    void personEdited(std::string text, std::size_t selStart);
+
+    [[nodiscard]] std::optional<std::string> property(std::string_view name) const override;
+
+    Event<> Change;
+
+protected:
+    [[nodiscard]] bool isFocusKind() const override { return true; }
+    void personKeyDown(const KeyStroke& stroke) override;
+    void personCharacter(char32_t character) override;
+    void personPaste(std::string_view text) override;
+    void selectAll() override;
+
+private:
+    void replaceSelection(std::u32string_view with);
+    void erase(std::size_t start, std::size_t count);
+    void moveCaret(std::size_t to, bool extend);
+
+    std::string text_;
+    std::size_t maxLength_ = 0;
+    std::size_t selStart_ = 0;
+    std::size_t selLength_ = 0;
+    Colour backColor_ = colour::window;
+    bool locked_ = false;
+    bool multiLine_ = false;
+};
+
+} // namespace quillmere::ui
