@@ -1,0 +1,74 @@
+#include "sample/Arguments.h"
+
+#include <charconv>
+#include <limits>
+#include <set>
+
+namespace quillmere::sample {
+namespace {
+
+template <typename Number>
+Number numberOf(const std::string& option, const std::string& value, Number highest) {
+    Number number{};
+    const char* end = value.data() + value.size();
+    const auto [stop, error] = std::from_chars(value.data(), end, number);
+    if (error != std::errc{} || stop != end || number < Number{0} || number > highest) {
+        throw UsageError(option + " takes a whole number from 0 to " + std::to_string(highest) + ", not '" +
+                         value + "'");
+    }
+    return number;
+}
+
+// The running number of people and units is a 16-bit one; some room is left for new records.
+constexpr int mostRecords = 30000;
+
+} // namespace
+
+Arguments parseArguments(const std::vector<std::string>& arguments) {
+    Arguments result;
+    std::set<std::string> seen;
+    for (std::size_t i = 0; i < arguments.size(); ++i) {
+        const std::string& option = arguments[i];
+        const auto value = [&]() -> const std::string& {
+            if (i + 1 == arguments.size()) throw UsageError(option + " needs a value");
+            return arguments[++i];
+        };
+        if (!seen.insert(option).second) throw UsageError(option + " is given twice");
+        if (option == "--help" || option == "-h") {
+            result.help = true;
+        } else if (option == "--force") {
+            result.force = true;
+        } else if (option == "--empty") {
+            result.options.people = false;
+        } else if (option == "--output") {
+            result.output = value();
+        } else if (option == "--persons") {
+            result.options.persons = numberOf(option, value(), mostRecords);
+        } else if (option == "--units") {
+            result.options.units = numberOf(option, value(), mostRecords);
+        } else if (option == "--seed") {
+            result.options.seed = numberOf(option, value(), std::numeric_limits<std::uint64_t>::max());
+        } else {
+            throw UsageError("unknown option '" + option + "'");
+        }
+    }
+    if (result.output.empty() && !result.help) throw UsageError("--output is missing");
+    return result;
+}
+
+std::string_view helpText() {
+    return "usage: quillmere-sample --output FILE [--persons N] [--units N] [--seed N] [--empty] [--force]\n"
+           "\n"
+           "Makes a sample register in an SQLite file: the catalogue, the code tables, and made-up\n"
+           "people, units and projects.\n"
+           "\n"
+           "  --output FILE   the file to make\n"
+           "  --persons N     how many people (50)\n"
+           "  --units N       how many units (10)\n"
+           "  --seed N        another number makes other people (20260115)\n"
+           "  --empty         the catalogue and the code tables alone\n"
+           "  --force         replaces a file that is there\n"
+           "  --help          this text\n";
+}
+
+} // namespace quillmere::sample

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "sample/SampleRegister.h"
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillmere::sample {
+
+/// What the command line asks for.
+struct Arguments {
+    std::string output;
+    Options options;
+    bool force = false;
+    bool help = false;
+};
+
+/// A command line that asks for nothing sensible; `what()` says why.
+class UsageError : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// Reads the arguments behind the program's name. Raises UsageError for an unknown option, a
+/// missing or malformed value, an option given twice, and a missing output unless help is asked for.
+[[nodiscard]] Arguments parseArguments(const std::vector<std::string>& arguments);
+
+[[nodiscard]] std::string_view helpText();
+
+} // namespace quillmere::sample

@@ -1,0 +1,47 @@
+#include "sample/OutputFile.h"
+
+#include "adapters/sqlite/SqliteConnection.h"
+#include "platform/Error.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace quillmere::sample {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path pathOf(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
+
+void removeQuietly(const fs::path& path) {
+    std::error_code ignored;
+    fs::remove(path, ignored);
+}
+
+} // namespace
+
+void buildFile(const std::string& path, const Options& options, bool replace) {
+    const fs::path target = pathOf(path);
+    if (fs::exists(target) && !replace) {
+        throw Error(Failure::PermissionDenied, "文件已存在：" + path, "quillmere-sample");
+    }
+    const std::string unfinished = path + ".unfinished";
+    removeQuietly(pathOf(unfinished));
+    try {
+        // A write-ahead log would leave a second file beside one that is meant to be handed on.
+        const auto connection = sqlite::open({.path = unfinished, .create = true, .writeAheadLog = false});
+        build(*connection, options);
+        connection->close();
+    } catch (...) {
+        removeQuietly(pathOf(unfinished));
+        throw;
+    }
+    std::error_code failure;
+    fs::rename(pathOf(unfinished), target, failure);
+    if (!failure) return;
+    removeQuietly(pathOf(unfinished));
+    throw Error(Failure::PathAccess, "不能写入文件：" + path + "（" + failure.message() + "）",
+                "quillmere-sample");
+}
+
+} // namespace quillmere::sample
