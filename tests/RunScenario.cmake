@@ -1,0 +1,30 @@
+# Runs one scenario in a fresh folder of its own and compares what it prints with the transcript kept
+# beside the script:
+#   cmake -D RUNNER=program -D SCRIPT=x.scn -D EXPECTED=x.out -D WORK=folder -P RunScenario.cmake
+# To take over a new transcript, read it, then copy WORK/transcript.out over EXPECTED.
+
+file(REMOVE_RECURSE ${WORK})
+file(MAKE_DIRECTORY ${WORK}/run)
+set(transcript ${WORK}/transcript.out)
+
+execute_process(COMMAND ${RUNNER} ${SCRIPT}
+    WORKING_DIRECTORY ${WORK}/run
+    OUTPUT_FILE ${transcript}
+    ERROR_VARIABLE complaint
+    RESULT_VARIABLE status)
+
+if(NOT EXISTS ${EXPECTED})
+    message(FATAL_ERROR "${SCRIPT} has no transcript beside it; this run printed ${transcript}")
+endif()
+
+execute_process(COMMAND diff -u ${EXPECTED} ${transcript} OUTPUT_VARIABLE difference
+    ERROR_VARIABLE diffComplaint RESULT_VARIABLE differs)
+if(NOT differs EQUAL 0)
+    message("${difference}${diffComplaint}")
+endif()
+if(NOT status EQUAL 0)
+    message("${complaint}")
+    message(FATAL_ERROR "${SCRIPT}: status ${status}")
+elseif(NOT differs EQUAL 0)
+    message(FATAL_ERROR "${SCRIPT}: the transcript differs")
+endif()
