@@ -1,0 +1,453 @@
+#include "adapters/sqlite/SqliteConnection.h"
+#include "../support/FailureNumber.h"
+#include "SqliteTypes.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace quillmere::sqlite {
+namespace {
+
+namespace fs = std::filesystem;
+using namespace std::chrono_literals;
+
+/// A folder of its own for each test, and a database in it with one table `t`.
+class SqliteFile : public testing::Test {
+protected:
+    SqliteFile() {
+        std::string pattern = (fs::temp_directory_path() / "quillmere-sqlite-XXXXXX").string();
+        folder = mkdtemp(pattern.data());
+        fs::permissions(folder, fs::perms::all); // some tests give up the superuser's rights
+    }
+    ~SqliteFile() override { fs::remove_all(folder); }
+    SqliteFile(const SqliteFile&) = delete;
+    SqliteFile& operator=(const SqliteFile&) = delete;
+
+    [[nodiscard]] std::string path(const std::string& name = "register.db") const { return folder / name; }
+
+    [[nodiscard]] OpenOptions options(bool create = false) const {
+        return {.path = path(), .create = create, .busyTimeout = 50ms};
+    }
+
+    /// Makes the file with the table `t` and one row, and leaves it closed.
+    void makeDatabase(bool writeAheadLog = true) const {
+        auto with = options(true);
+        with.writeAheadLog = writeAheadLog;
+        const auto connection = open(with);
+        connection->execute("create table t (a text collate nocase primary key)");
+        connection->execute("insert into t values('first')");
+    }
+
+    static std::int32_t count(data::Connection& connection) {
+        return connection.query("select count(*) from t").at(0, 0).toLong();
+    }
+
+    fs::path folder;
+};
+
+/// The description that `action` fails with; empty when it does not fail.
+std::string descriptionOf(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const Error& error) {
+        return error.description();
+    }
+    return {};
+}
+
+/// Runs `action` in a process of its own, which is killed `after` it has begun, or which ends by
+/// itself. True when it was killed.
+bool killedWhile(const std::function<void()>& action, std::chrono::milliseconds after) {
+    const pid_t child = fork();
+    if (child == 0) {
+        action();
+        _exit(0);
+    }
+    std::this_thread::sleep_for(after);
+    kill(child, SIGKILL);
+    int status = 0;
+    waitpid(child, &status, 0);
+    return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
+}
+
+/// For its lifetime the process has no rights over the files of others: the superuser may write
+/// read-only files, an ordinary user may not.
+class OrdinaryUser {
+public:
+    OrdinaryUser() {
+        constexpr uid_t nobody = 65534;
+        if (geteuid() == 0) lowered_ = seteuid(nobody) == 0;
+    }
+    ~OrdinaryUser() {
+        if (lowered_ && seteuid(0) != 0) std::abort();
+    }
+    OrdinaryUser(const OrdinaryUser&) = delete;
+    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+
+private:
+    bool lowered_ = false;
+};
+
+// ---- opening
+
+TEST_F(SqliteFile, AMissingFileRaisesFileNotFoundAndIsNotMade) {
+    EXPECT_EQ(failureOf([&] { (void)open(options()); }), number(Failure::FileNotFound));
+    EXPECT_EQ(descriptionOf([&] { (void)open(options()); }), "找不到数据库文件：" + path());
+    EXPECT_FALSE(fs::exists(path()));
+}
+
+TEST_F(SqliteFile, AnEmptyPathRaisesFileNotFound) {
+    EXPECT_EQ(failureOf([] { (void)open({.path = ""}); }), number(Failure::FileNotFound));
+    EXPECT_EQ(failureOf([] { (void)open({.path = "", .create = true}); }), number(Failure::FileNotFound));
+}
+
+TEST_F(SqliteFile, AFileIsMadeWhenAsked) {
+    const auto connection = open(options(true));
+    EXPECT_TRUE(connection->isOpen());
+    EXPECT_TRUE(fs::exists(path()));
+}
+
+TEST_F(SqliteFile, AnExistingFileKeepsItsRows) {
+    makeDatabase();
+    EXPECT_EQ(count(*open(options())), 1);
+    EXPECT_EQ(count(*open(options(true))), 1);
+}
+
+TEST_F(SqliteFile, APathMayHoldChinese) {
+    const OpenOptions chinese{.path = path("人才 库.db"), .create = true};
+    open(chinese)->execute("create table t (a text)");
+    EXPECT_TRUE(fs::exists(folder / "人才 库.db"));
+}
+
+TEST_F(SqliteFile, APathThatSqliteGivesAMeaningIsAFile) {
+    const auto before = fs::current_path();
+    fs::current_path(folder);
+    for (const char* name : {":memory:", "file:x?mode=memory"}) {
+        open({.path = name, .create = true})->execute("create table t (a text)");
+        EXPECT_TRUE(fs::exists(folder / name)) << name;
+    }
+    fs::current_path(before);
+}
+
+TEST_F(SqliteFile, AFileThatIsNoDatabaseFails) {
+    std::ofstream(path()) << std::string(4096, 'x');
+    EXPECT_EQ(failureOf([&] { (void)open(options()); }), number(Failure::Unspecified));
+    EXPECT_EQ(descriptionOf([&] { (void)open(options()); }), "文件不是数据库：file is not a database");
+}
+
+TEST_F(SqliteFile, AFolderCannotBeOpened) {
+    const OpenOptions folderItself{.path = folder};
+    EXPECT_EQ(failureOf([&] { (void)open(folderItself); }), number(Failure::Unspecified));
+    EXPECT_EQ(descriptionOf([&] { (void)open(folderItself); }),
+              "打不开数据库文件：unable to open database file");
+}
+
+// ---- read-only files and full disks
+
+TEST_F(SqliteFile, AReadOnlyFileIsReadAndNotWritten) {
+    makeDatabase();
+    fs::permissions(path(), fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+    const OrdinaryUser user;
+    const auto connection = open(options());
+    EXPECT_EQ(count(*connection), 1);
+    const auto insert = [&] { connection->execute("insert into t values('x')"); };
+    EXPECT_EQ(failureOf(insert), number(Failure::Unspecified));
+    EXPECT_EQ(descriptionOf(insert), "数据库是只读的，不能写入：attempt to write a readonly database");
+    EXPECT_EQ(count(*connection), 1);
+}
+
+TEST_F(SqliteFile, AFullDiskFailsAndKeepsNothingOfTheStatement) {
+    makeDatabase();
+    const auto connection = open(options());
+    connection->execute("pragma max_page_count=8");
+    const auto insert = [&] {
+        connection->execute("insert into t values('" + std::string(100'000, 'x') + "')");
+    };
+    EXPECT_EQ(failureOf(insert), number(Failure::Unspecified));
+    EXPECT_EQ(descriptionOf(insert), "磁盘已满，数据没有保存：database or disk is full");
+    EXPECT_EQ(count(*connection), 1);
+}
+
+// ---- several users of one file
+
+TEST_F(SqliteFile, AStatementWaitsForAnotherWriterAndThenFails) {
+    makeDatabase();
+    const auto first = open(options());
+    const auto second = open(options());
+    first->execute("begin immediate");
+    const auto insert = [&] { second->execute("insert into t values('x')"); };
+    const auto begun = std::chrono::steady_clock::now();
+    EXPECT_EQ(failureOf(insert), number(Failure::Unspecified));
+    EXPECT_GE(std::chrono::steady_clock::now() - begun, 50ms);
+    EXPECT_EQ(descriptionOf(insert), "数据库正被其他程序使用，请稍后再试：database is locked");
+    first->execute("commit");
+    EXPECT_NO_THROW(insert());
+}
+
+TEST_F(SqliteFile, AStatementThatWaitedLongEnoughRuns) {
+    makeDatabase();
+    const auto first = open(options());
+    auto patient = options();
+    patient.busyTimeout = 10s;
+    const auto second = open(patient);
+    first->execute("begin immediate");
+    std::thread other([&] {
+        std::this_thread::sleep_for(30ms);
+        first->execute("commit");
+    });
+    EXPECT_NO_THROW(second->execute("insert into t values('x')"));
+    other.join();
+}
+
+TEST_F(SqliteFile, ReadersAndAWriterDoNotWaitForEachOther) {
+    makeDatabase();
+    const auto first = open(options());
+    const auto second = open(options());
+    first->execute("begin immediate");
+    first->execute("insert into t values('x')");
+    EXPECT_EQ(count(*second), 1);
+    first->execute("commit");
+    EXPECT_EQ(count(*second), 2);
+}
+
+TEST_F(SqliteFile, AQueryLeavesNoLock) {
+    makeDatabase(false);
+    auto plain = options();
+    plain.writeAheadLog = false; // here an open cursor would keep the writer out
+    const auto reader = open(plain);
+    const auto writer = open(plain);
+    (void)reader->query("select * from t");
+    reader->execute("select * from t");
+    EXPECT_EQ(failureOf([&] { reader->execute("insert into t select a from t"); }),
+              number(Failure::ConstraintFailed));
+    EXPECT_NO_THROW(writer->execute("insert into t values('x')"));
+}
+
+// ---- the log
+
+TEST_F(SqliteFile, AWriteAheadLogIsKeptUnlessTurnedOff) {
+    const auto mode = [](data::Connection& connection) {
+        return connection.query("pragma journal_mode").at(0, 0).toText();
+    };
+    EXPECT_EQ(mode(*open(options(true))), "wal");
+    auto plain = options();
+    plain.writeAheadLog = false;
+    EXPECT_EQ(mode(*open(plain)), "delete");
+}
+
+TEST_F(SqliteFile, ClosingLeavesOneFileOnly) {
+    makeDatabase();
+    const auto connection = open(options());
+    connection->execute("insert into t values('x')");
+    EXPECT_TRUE(fs::exists(path() + "-wal"));
+    connection->close();
+    EXPECT_FALSE(fs::exists(path() + "-wal"));
+    EXPECT_FALSE(fs::exists(path() + "-shm"));
+}
+
+TEST_F(SqliteFile, AKilledProcessLeavesEachStatementWhole) {
+    makeDatabase();
+    open(options())->execute("create table rows (batch integer, n integer)");
+    const bool killed = killedWhile(
+        [&] {
+            const auto connection = open(options());
+            for (int batch = 1;; ++batch)
+                connection->execute(
+                    "with recursive c(n) as (select 1 union all select n+1 from c where n<500) "
+                    "insert into rows select " +
+                    std::to_string(batch) + ", n from c");
+        },
+        300ms);
+    EXPECT_TRUE(killed);
+    const auto after = open(options());
+    const auto batches = after->query("select batch, count(*) from rows group by batch");
+    EXPECT_GT(batches.rowCount(), 0U);
+    for (std::size_t i = 0; i < batches.rowCount(); ++i)
+        EXPECT_EQ(batches.at(i, 1).toLong(), 500) << "batch " << i;
+    EXPECT_EQ(after->query("pragma integrity_check").at(0, 0), data::Value("ok"));
+}
+
+// ---- kept queries
+
+class SqliteQueries : public testing::Test {
+protected:
+    std::shared_ptr<data::Connection> connection = openInMemory();
+
+    void SetUp() override {
+        connection->execute("create table t (a text collate nocase, b boolean)");
+        connection->execute("insert into t values('x',1)");
+    }
+};
+
+TEST_F(SqliteQueries, ResultsAreNeverKept) {
+    EXPECT_EQ(connection->query("select * from t").rowCount(), 1U);
+    connection->execute("insert into t values('y',0)");
+    EXPECT_EQ(connection->query("select * from t").rowCount(), 2U);
+}
+
+TEST_F(SqliteQueries, AKeptQuerySeesANewColumn) {
+    (void)connection->query("select * from t");
+    connection->execute("alter table t add column c boolean default 1");
+    const auto rows = connection->query("select * from t");
+    EXPECT_EQ(rows.columns(), (std::vector<std::string>{"a", "b", "c"}));
+    EXPECT_EQ(rows.at(0, "c"), data::Value(true));
+}
+
+TEST_F(SqliteQueries, AKeptQuerySeesThatAColumnIsNoLongerABoolean) {
+    const char* plain = "select b from t";
+    const char* through = "select iif(b is null,false,b) as b from t";
+    EXPECT_EQ(connection->query(plain).at(0, 0), data::Value(true));
+    EXPECT_EQ(connection->query(through).at(0, 0), data::Value(true));
+    connection->execute("drop table t");
+    connection->execute("create table t (b integer)");
+    connection->execute("insert into t values(1)");
+    EXPECT_EQ(connection->query(plain).at(0, 0), data::Value(1));
+    EXPECT_EQ(connection->query(through).at(0, 0), data::Value(1));
+    connection->execute("drop table t");
+    connection->execute("create table t (b boolean)");
+    connection->execute("insert into t values(0)");
+    connection->execute(through); // runs, and compiles again, without anyone asking for the rows
+    EXPECT_EQ(connection->query(through).at(0, 0), data::Value(false));
+}
+
+TEST_F(SqliteQueries, AKeptQueryFailsWhenItsTableIsGone) {
+    (void)connection->query("select * from t");
+    connection->execute("drop table t");
+    EXPECT_EQ(failureOf([&] { (void)connection->query("select * from t"); }),
+              number(Failure::StatementFailed));
+    connection->execute("create table t (z text)");
+    EXPECT_EQ(connection->query("select * from t").columns(), std::vector<std::string>{"z"});
+}
+
+TEST_F(SqliteQueries, AQueryThatFailedWhileRunningRunsAgain) {
+    const char* sql = "select mid(a,n) from t, (select 1 as n union all select 0)";
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(failureOf([&] { (void)connection->query(sql); }), number(Failure::StatementFailed));
+    connection->execute("delete from t");
+    EXPECT_TRUE(connection->query(sql).empty());
+}
+
+TEST_F(SqliteQueries, MoreQueriesThanAreKeptAllAnswer) {
+    for (int round = 0; round < 2; ++round)
+        for (int i = 0; i < 300; ++i)
+            EXPECT_EQ(connection->query("select " + std::to_string(i)).at(0, 0), data::Value(i));
+}
+
+TEST_F(SqliteQueries, CanBeTurnedOff) {
+    const auto file = std::filesystem::temp_directory_path() / ("quillmere-kept-" + std::to_string(getpid()));
+    const auto none = open({.path = file, .create = true, .keptQueries = 0});
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(none->query("select 5").at(0, 0), data::Value(5));
+    none->close();
+    std::filesystem::remove(file);
+}
+
+// ---- what SQLite alone has
+
+TEST_F(SqliteQueries, CommentsAtTheEndAreNoStatement) {
+    EXPECT_EQ(connection->query("select 1; -- end").at(0, 0), data::Value(1));
+    EXPECT_EQ(connection->query("select 1; /* a */ ;; -- b\n ").at(0, 0), data::Value(1));
+    EXPECT_EQ(failureOf([&] { (void)connection->query("select 1; /* a */ select 2"); }),
+              number(Failure::StatementFailed));
+}
+
+TEST_F(SqliteQueries, ACommentAloneIsNoStatement) {
+    EXPECT_EQ(failureOf([&] { connection->execute("-- nothing"); }), number(Failure::StatementFailed));
+}
+
+TEST_F(SqliteQueries, APragmaBesideAnotherStatementIsRefusedBeforeItActs) {
+    const auto setting = [&] { return connection->query("pragma foreign_keys").at(0, 0).toLong(); };
+    ASSERT_EQ(setting(), 0);
+    EXPECT_EQ(failureOf([&] { connection->execute("pragma foreign_keys=on; select 1"); }),
+              number(Failure::StatementFailed));
+    EXPECT_EQ(failureOf([&] { connection->execute("select 1; pragma foreign_keys=on"); }),
+              number(Failure::StatementFailed));
+    EXPECT_EQ(setting(), 0);
+    connection->execute("pragma foreign_keys=on");
+    EXPECT_EQ(setting(), 1);
+    connection->execute("pragma foreign_keys=off");
+    EXPECT_EQ(setting(), 0);
+}
+
+TEST_F(SqliteQueries, PragmasAnswerInsideAQuery) {
+    const char* sql = "select name from pragma_table_info('t')";
+    for (int i = 0; i < 2; ++i)
+        EXPECT_EQ(connection->query(sql).rowCount(), 2U);
+}
+
+TEST_F(SqliteQueries, ABatchIsHeldTogetherByBeginAndCommit) {
+    connection->execute("begin");
+    connection->execute("insert into t values('y',1)");
+    connection->execute("rollback");
+    EXPECT_EQ(connection->query("select * from t").rowCount(), 1U);
+    connection->execute("begin");
+    connection->execute("insert into t values('y',1)");
+    connection->execute("commit");
+    EXPECT_EQ(connection->query("select * from t").rowCount(), 2U);
+}
+
+TEST_F(SqliteQueries, TheDescriptionTellsWhichConstraintFailed) {
+    connection->execute("create table c (a text primary key, b text not null, n integer check (n > 0))");
+    connection->execute("insert into c values('x','x',1)");
+    const auto failing = [&](const std::string& row) {
+        return descriptionOf([&] { connection->execute("insert into c values(" + row + ")"); });
+    };
+    EXPECT_EQ(failing("'x','x',1"), "数据重复，违反唯一性约束：UNIQUE constraint failed: c.a");
+    EXPECT_EQ(failing("'y',null,1"), "必填数据为空：NOT NULL constraint failed: c.b");
+    EXPECT_EQ(failing("'y','y',0"), "数据不符合检查条件：CHECK constraint failed: n > 0");
+}
+
+TEST_F(SqliteQueries, AFaultySyntaxIsToldInSqlitesWords) {
+    EXPECT_EQ(descriptionOf([&] { connection->execute("select x x x"); }),
+              "语句执行失败：near \"x\": syntax error");
+}
+
+TEST_F(SqliteQueries, AStartBelowOneOfMidFails) {
+    EXPECT_EQ(failureOf([&] { (void)connection->query("select mid('abc',0,1)"); }),
+              number(Failure::StatementFailed));
+    EXPECT_EQ(failureOf([&] { (void)connection->query("select mid('abc',1,-1)"); }),
+              number(Failure::StatementFailed));
+}
+
+TEST_F(SqliteQueries, TheFunctionsMayStandInTheSchema) {
+    connection->execute("create table p (a text check (len(a) < 12))");
+    connection->execute("create index pi on p (mid(a,5,6))");
+    connection->execute("insert into p values('abcd199003')");
+    EXPECT_EQ(failureOf([&] { connection->execute("insert into p values('123456789012')"); }),
+              number(Failure::ConstraintFailed));
+    const auto plan = connection->query("explain query plan select * from p where mid(a,5,6)='199003'");
+    EXPECT_NE(plan.at(0, "detail").toText().find("USING INDEX pi"), std::string::npos);
+}
+
+TEST_F(SqliteQueries, AColumnUnderAnotherNameIsABooleanAndAnExpressionIsNot) {
+    const auto rows = connection->query("select b as c, iif(b,7,8) as d from t");
+    EXPECT_EQ(rows.at(0, "c"), data::Value(true));
+    EXPECT_EQ(rows.at(0, "d"), data::Value(7));
+}
+
+TEST_F(SqliteQueries, AnExpressionOfTwoColumnsOfOneNameIsABooleanOnlyWhenBothAre) {
+    connection->execute("create table u (b integer)");
+    connection->execute("insert into u values(1)");
+    connection->execute("create table v (b boolean)");
+    connection->execute("insert into v values(1)");
+    EXPECT_EQ(connection->query("select iif(t.b is null,u.b,t.b) as b from t, u").at(0, 0), data::Value(1));
+    EXPECT_EQ(connection->query("select iif(t.b is null,v.b,t.b) as b from t, v").at(0, 0),
+              data::Value(true));
+}
+
+TEST_F(SqliteQueries, ABooleanIsKnownThroughAViewAndASubquery) {
+    connection->execute("create view w as select a, b from t");
+    EXPECT_EQ(connection->query("select b from w").at(0, 0), data::Value(true));
+    EXPECT_EQ(connection->query("select iif(b is null,false,b) as b from w").at(0, 0), data::Value(true));
+    EXPECT_EQ(connection->query("select b from (select b from t)").at(0, 0), data::Value(true));
+}
+
+} // namespace
+} // namespace quillmere::sqlite
