@@ -19,7 +19,8 @@ public:
 
     /// Both bounds included.
     [[nodiscard]] int between(int low, int high) {
-        return low + static_cast<int>(below(static_cast<std::size_t>(high - low + 1)));
+        const auto count = static_cast<std::size_t>(high - low) + 1;
+        return low + static_cast<int>(below(count));
     }
 
     [[nodiscard]] bool chance(int percent) { return between(1, 100) <= percent; }

@@ -31,6 +31,14 @@ struct FieldRow {
     /// Fixed label behind the widget.
     std::string_view unit;
 
+    /// A copy with one member set.
+    template <class T>
+    [[nodiscard]] constexpr FieldRow with(T FieldRow::*member, T value) const {
+        FieldRow copy = *this;
+        copy.*member = value;
+        return copy;
+    }
+
     [[nodiscard]] constexpr FieldRow max(std::size_t characters) const {
         return with(&FieldRow::maxLength, characters);
     }
@@ -39,14 +47,6 @@ struct FieldRow {
     [[nodiscard]] constexpr FieldRow decimal() const { return with(&FieldRow::filter, KeyFilter::Decimal); }
     [[nodiscard]] constexpr FieldRow in(std::string_view unitName) const {
         return with(&FieldRow::unit, unitName);
-    }
-
-    /// A copy with one member set.
-    template <class T>
-    [[nodiscard]] constexpr FieldRow with(T FieldRow::*member, T value) const {
-        FieldRow copy = *this;
-        copy.*member = value;
-        return copy;
     }
 };
 

@@ -71,12 +71,12 @@ struct Decimal {
 private:
     void addOneAtTheEnd() {
         for (std::string* part : {&decimals, &whole}) {
-            for (auto digit = part->rbegin(); digit != part->rend(); ++digit) {
-                if (*digit != '9') {
-                    ++*digit;
-                    return;
-                }
-                *digit = '0';
+            const std::size_t place = part->find_last_not_of('9');
+            const bool found = place != std::string::npos;
+            std::fill(part->begin() + static_cast<std::ptrdiff_t>(found ? place + 1 : 0), part->end(), '0');
+            if (found) {
+                ++(*part)[place];
+                return;
             }
         }
         whole.insert(0, 1, '1');
