@@ -104,6 +104,33 @@ TEST_P(EngineContract, AnUnknownNameInDoubleQuotesIsNoText) {
               number(Failure::StatementFailed));
 }
 
+TEST_P(EngineContract, AnEmptyListIsASyntaxFailure) {
+    makeInfoTable();
+    const std::string select = "select * from s_infotable where tblname ";
+    for (const char* list : {"in ()", "in()", "IN ( )", "not in (\t\r\n)", "in (/* nothing */)",
+                             "='A01' or otherprop in ()", "in ('A01') and tblname in ()"}) {
+        try {
+            (void)query(select + list);
+            ADD_FAILURE() << "nothing was raised for " << list;
+        } catch (const Error& error) {
+            EXPECT_EQ(error.number(), number(Failure::StatementFailed)) << list;
+            EXPECT_TRUE(error.description().starts_with("语句执行失败：")) << error.description();
+        }
+    }
+    EXPECT_EQ(failureOf([&] { execute("delete from s_infotable where tblname not in ()"); }),
+              number(Failure::StatementFailed));
+    EXPECT_EQ(countOf("s_infotable"), 4);
+}
+
+TEST_P(EngineContract, AnEmptyListInATextOrACommentIsNone) {
+    makeInfoTable();
+    EXPECT_EQ(cell("select 'in ()' from s_infotable where tblname='A01' /* in () */"), Value("in ()"));
+    EXPECT_EQ(cell("select 'it''s in ()' from s_infotable where tblname='A01' -- in ()"),
+              Value("it's in ()"));
+    EXPECT_EQ(column("select tblname as \"in ()\" from s_infotable where tblname in ('in ()','A01')"),
+              std::vector<std::string>{"A01"});
+}
+
 TEST_P(EngineContract, TheDescriptionIsChineseWithTheEnginesMessageBehindIt) {
     try {
         execute("delete from nowhere");

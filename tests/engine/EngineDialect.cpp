@@ -83,6 +83,23 @@ TEST_P(EngineDialect, IifOfABooleanIsABoolean) {
     EXPECT_EQ(choices.at(0, "dmcod"), Value("0101"));
 }
 
+TEST_P(EngineDialect, IifWithALiteralTrueOrFalseIsABoolean) {
+    makeCodeTable("GB");
+    const auto rows = query("select len(dmcod) as n, iif(dmcpt='',true,false) as nameless, "
+                            "iif(dmhnd is null , FALSE , dmattr) as known from GB where dmcod in ('01','03') "
+                            "order by dmcod");
+    ASSERT_EQ(rows.rowCount(), 2U);
+    EXPECT_EQ(rows.row(0), (std::vector<Value>{2, false, false}));
+    EXPECT_EQ(rows.row(1), (std::vector<Value>{2, true, true}));
+}
+
+TEST_P(EngineDialect, IifOfNumbersIsANumber) {
+    makeCodeTable("GB");
+    EXPECT_EQ(cell("select iif(dmattr=true,1,0) as n from GB where dmcod='03'"), Value(1));
+    EXPECT_EQ(cell("select iif(iif(dmattr is null,false,dmattr)=true,1,0) as n from GB where dmcod='03'"),
+              Value(1));
+}
+
 TEST_P(EngineDialect, TrueAndFalseAreLiterals) {
     makeCodeTable("GB");
     EXPECT_EQ(column("select dmcod from GB where dmattr =true order by dmcod"),

@@ -1,5 +1,6 @@
 #include "adapters/sqlite/SqliteConnection.h"
 #include "../support/FailureNumber.h"
+#include "SqliteFolder.h"
 #include "SqliteTypes.h"
 
 #include <gtest/gtest.h>
@@ -18,20 +19,9 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::chrono_literals;
 
-/// A folder of its own for each test, and a database in it with one table `t`.
-class SqliteFile : public testing::Test {
+/// A database in a folder of its own, with one table `t`.
+class SqliteFile : public SqliteFolder {
 protected:
-    SqliteFile() {
-        std::string pattern = (fs::temp_directory_path() / "quillmere-sqlite-XXXXXX").string();
-        folder = mkdtemp(pattern.data());
-        fs::permissions(folder, fs::perms::all); // some tests give up the superuser's rights
-    }
-    ~SqliteFile() override { fs::remove_all(folder); }
-    SqliteFile(const SqliteFile&) = delete;
-    SqliteFile& operator=(const SqliteFile&) = delete;
-
-    [[nodiscard]] std::string path(const std::string& name = "register.db") const { return folder / name; }
-
     [[nodiscard]] OpenOptions options(bool create = false) const {
         return {.path = path(), .create = create, .busyTimeout = 50ms};
     }
@@ -48,8 +38,6 @@ protected:
     static std::int32_t count(data::Connection& connection) {
         return connection.query("select count(*) from t").at(0, 0).toLong();
     }
-
-    fs::path folder;
 };
 
 /// The description that `action` fails with; empty when it does not fail.
@@ -76,24 +64,6 @@ bool killedWhile(const std::function<void()>& action, std::chrono::milliseconds 
     waitpid(child, &status, 0);
     return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
 }
-
-/// For its lifetime the process has no rights over the files of others: the superuser may write
-/// read-only files, an ordinary user may not.
-class OrdinaryUser {
-public:
-    OrdinaryUser() {
-        constexpr uid_t nobody = 65534;
-        if (geteuid() == 0) lowered_ = seteuid(nobody) == 0;
-    }
-    ~OrdinaryUser() {
-        if (lowered_ && seteuid(0) != 0) std::abort();
-    }
-    OrdinaryUser(const OrdinaryUser&) = delete;
-    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-
-private:
-    bool lowered_ = false;
-};
 
 // ---- opening
 
@@ -153,7 +123,7 @@ TEST_F(SqliteFile, AFolderCannotBeOpened) {
 
 TEST_F(SqliteFile, AReadOnlyFileIsReadAndNotWritten) {
     makeDatabase();
-    fs::permissions(path(), fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read);
+    forbidWriting(path());
     const OrdinaryUser user;
     const auto connection = open(options());
     EXPECT_EQ(count(*connection), 1);
@@ -215,6 +185,18 @@ TEST_F(SqliteFile, ReadersAndAWriterDoNotWaitForEachOther) {
     EXPECT_EQ(count(*second), 1);
     first->execute("commit");
     EXPECT_EQ(count(*second), 2);
+}
+
+TEST_F(SqliteFile, AKeptQuerySeesWhatAnotherProgramDidToItsTable) {
+    makeDatabase();
+    const auto first = open(options());
+    const auto second = open(options());
+    const char* sql = "select * from t";
+    EXPECT_EQ(first->query(sql).columns(), (std::vector<std::string>{"a"}));
+    second->execute("alter table t add column b boolean default 1");
+    const auto rows = first->query(sql);
+    EXPECT_EQ(rows.columns(), (std::vector<std::string>{"a", "b"}));
+    EXPECT_EQ(rows.at(0, "b"), data::Value(true));
 }
 
 TEST_F(SqliteFile, AQueryLeavesNoLock) {
@@ -302,7 +284,7 @@ TEST_F(SqliteQueries, AKeptQuerySeesANewColumn) {
 
 TEST_F(SqliteQueries, AKeptQuerySeesThatAColumnIsNoLongerABoolean) {
     const char* plain = "select b from t";
-    const char* through = "select iif(b is null,false,b) as b from t";
+    const char* through = "select iif(b is null,null,b) as b from t";
     EXPECT_EQ(connection->query(plain).at(0, 0), data::Value(true));
     EXPECT_EQ(connection->query(through).at(0, 0), data::Value(true));
     connection->execute("drop table t");
@@ -440,6 +422,22 @@ TEST_F(SqliteQueries, AnExpressionOfTwoColumnsOfOneNameIsABooleanOnlyWhenBothAre
     EXPECT_EQ(connection->query("select iif(t.b is null,u.b,t.b) as b from t, u").at(0, 0), data::Value(1));
     EXPECT_EQ(connection->query("select iif(t.b is null,v.b,t.b) as b from t, v").at(0, 0),
               data::Value(true));
+}
+
+TEST_F(SqliteQueries, ALiteralBesideAStarIsNoHindrance) {
+    const auto rows = connection->query("select *, iif(a='x',true,false) as c from t");
+    EXPECT_EQ(rows.row(0), (std::vector<data::Value>{"x", true, 1})); // too many columns to tell
+    EXPECT_EQ(connection->query("select true as yes, 1 as one from t").row(0),
+              (std::vector<data::Value>{true, 1}));
+}
+
+TEST_F(SqliteQueries, AStatementAfterOneThatFailedWhileRunningRuns) {
+    connection->execute("create table c (a text primary key)");
+    connection->execute("insert into c values('x')");
+    EXPECT_EQ(failureOf([&] { connection->execute("insert into c values('x')"); }),
+              number(Failure::ConstraintFailed));
+    EXPECT_NO_THROW(connection->execute("insert into c values('y')"));
+    EXPECT_EQ(connection->query("select a from c order by a").rowCount(), 2U);
 }
 
 TEST_F(SqliteQueries, ABooleanIsKnownThroughAViewAndASubquery) {

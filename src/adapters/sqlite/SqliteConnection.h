@@ -29,8 +29,9 @@ struct OpenOptions {
 };
 
 /// Opens a database file for reading and writing; a file that may not be written opens for reading,
-/// and a statement that would change it fails. Raises FileNotFound for a missing file, Unspecified
-/// for one that cannot be opened or is no database.
+/// and a statement that would change it fails. The folder of a file with a write-ahead log has to be
+/// writable all the same, since readers too keep track in a file beside it. Raises FileNotFound for a missing
+/// file, Unspecified for one that cannot be opened or is no database.
 [[nodiscard]] std::shared_ptr<data::Connection> open(const OpenOptions& options);
 
 /// Opens a fresh, empty database that lives as long as the connection is open.

@@ -1,5 +1,7 @@
 #include "adapters/sqlite/Statement.h"
 
+#include "adapters/sqlite/BooleanItems.h"
+#include "adapters/sqlite/EmptyList.h"
 #include "adapters/sqlite/SqliteError.h"
 
 #include <sqlite3.h>
@@ -81,6 +83,10 @@ Statement::Statement(sqlite3* database, CompilationNote& note, std::string_view 
     // SQLite would stop reading there and run what stands before it.
     if (sql.find('\0') != std::string_view::npos) raiseStatementFailed("语句中含有无效字符");
 
+    const auto tokens = tokensOf(sql);
+    if (hasEmptyList(tokens)) raiseStatementFailed("in 后面的列表是空的");
+    booleanItems_ = booleanItems(tokens);
+
     note_.clear();
     note_.ignorePragmas(true);
     std::string_view tail;
@@ -119,12 +125,15 @@ void Statement::describeColumns() {
     const int count = sqlite3_column_count(handle_.get());
     columns_.clear();
     booleans_.clear();
+    // An item like "t.*" is several columns; the items then say nothing about the columns behind it.
+    const bool itemsAreColumns = booleanItems_.size() == static_cast<std::size_t>(count);
     for (int i = 0; i < count; ++i) {
         const char* type = sqlite3_column_decltype(handle_.get(), i);
         columns_.emplace_back(orEmpty(sqlite3_column_name(handle_.get(), i)));
         // An expression has no declared type. One that bears the name of a boolean column it was made
         // from, as in "iif(x is null,false,x) as x", is a boolean again.
-        booleans_.push_back(type == nullptr ? note_.readsBoolean(database_, columns_.back())
+        const bool byItsText = itemsAreColumns && booleanItems_[static_cast<std::size_t>(i)];
+        booleans_.push_back(type == nullptr ? byItsText || note_.readsBoolean(database_, columns_.back())
                                             : isBooleanType(type));
     }
     recompilations_ = sqlite3_stmt_status(handle_.get(), SQLITE_STMTSTATUS_REPREPARE, 0);

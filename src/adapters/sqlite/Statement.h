@@ -76,6 +76,7 @@ private:
     CompilationNote& note_;
     Handle handle_;
     bool isPragma_ = false;
+    std::vector<bool> booleanItems_;
     std::vector<std::string> columns_;
     std::vector<bool> booleans_;
     int recompilations_ = 0;

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+namespace quillmere::sqlite {
+
+/// A piece of a statement's text. A word is a name, a keyword or a number; a quoted piece is a text or a
+/// name in quotes or brackets, with them; a sign is any other character.
+struct Token {
+    enum class Kind { Word, Quoted, Sign };
+
+    Kind kind;
+    std::string_view text;
+
+    /// Whether it is the word `keyword`, given in small letters.
+    [[nodiscard]] bool isWord(std::string_view keyword) const;
+    [[nodiscard]] bool isSign(char sign) const { return kind == Kind::Sign && text.front() == sign; }
+};
+
+/// The pieces of `sql` in their order, without blanks and comments. They refer to `sql`.
+[[nodiscard]] std::vector<Token> tokensOf(std::string_view sql);
+
+} // namespace quillmere::sqlite
