@@ -1,0 +1,40 @@
+#include "BareEngine.h"
+
+#include <sqlite3.h>
+
+#include <stdexcept>
+
+namespace quillmere::bench {
+
+namespace {
+
+[[noreturn]] void raise(sqlite3* database) { throw std::runtime_error(sqlite3_errmsg(database)); }
+
+} // namespace
+
+void BareEngine::Close::operator()(sqlite3* database) const { sqlite3_close_v2(database); }
+
+BareEngine::BareEngine(const std::string& path) {
+    sqlite3* raw = nullptr;
+    const int code =
+        sqlite3_open_v2(path.c_str(), &raw, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
+    database_.reset(raw);
+    if (code != SQLITE_OK) raise(raw);
+}
+
+void BareEngine::run(std::span<const std::string> statements) {
+    for (const std::string& sql : statements) {
+        sqlite3_stmt* statement = nullptr;
+        if (sqlite3_prepare_v2(database_.get(), sql.data(), static_cast<int>(sql.size()), &statement,
+                               nullptr) != SQLITE_OK) {
+            raise(database_.get());
+        }
+        int code = SQLITE_ROW;
+        while (code == SQLITE_ROW)
+            code = sqlite3_step(statement);
+        sqlite3_finalize(statement);
+        if (code != SQLITE_DONE) raise(database_.get());
+    }
+}
+
+} // namespace quillmere::bench
