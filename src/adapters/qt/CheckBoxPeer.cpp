@@ -1,0 +1,82 @@
+#include "adapters/qt/CheckBoxPeer.h"
+
+#include "adapters/qt/FormPeer.h"
+#include "adapters/qt/Guard.h"
+#include "adapters/qt/Style.h"
+
+#include "platform/ui/CheckBox.h"
+
+#include <QCheckBox>
+#include <QPainter>
+#include <QPainterPath>
+
+namespace quillmere::qt {
+
+namespace {
+
+constexpr int indicatorSize = 16;
+
+class CheckBoxWidget final : public QCheckBox {
+public:
+    explicit CheckBoxWidget(QWidget* parent) : QCheckBox(parent) {
+        setFocusPolicy(Qt::TabFocus);
+        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    }
+
+    [[nodiscard]] QSize sizeHint() const override { return {indicatorSize + 8, style::fieldHeight}; }
+
+protected:
+    /// The model says whether it is checked; a click alone does not.
+    void nextCheckState() override {}
+
+    [[nodiscard]] bool hitButton(const QPoint& point) const override { return rect().contains(point); }
+
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const QRectF indicator(1.5, (height() - indicatorSize) / 2.0 + 0.5, indicatorSize - 1,
+                               indicatorSize - 1);
+        const QColor fill = isChecked() ? style::accent : style::card;
+        painter.setBrush(isEnabled() ? fill : style::disabledGround);
+        painter.setPen(QPen(isChecked() && isEnabled() ? style::accent : style::fieldBorder, 1));
+        painter.drawRoundedRect(indicator, 3, 3);
+        if (hasFocus()) {
+            painter.setBrush(Qt::NoBrush);
+            painter.setPen(QPen(style::accent, 2));
+            painter.drawRoundedRect(indicator.adjusted(-0.5, -0.5, 0.5, 0.5), 4, 4);
+        }
+        if (!isChecked()) return;
+        QPainterPath tick(indicator.topLeft() + QPointF(3.5, 7.8));
+        tick.lineTo(indicator.topLeft() + QPointF(6.6, 10.8));
+        tick.lineTo(indicator.topLeft() + QPointF(11.8, 4.4));
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(isEnabled() ? style::card : style::mutedText, 1.8, Qt::SolidLine, Qt::RoundCap));
+        painter.drawPath(tick);
+    }
+};
+
+} // namespace
+
+CheckBoxPeer::CheckBoxPeer(FormPeer& form, ui::Control& control)
+    : ControlPeer(form, control, new CheckBoxWidget(&form.window())) {
+    mirror(ui::Property::Value);
+    connect(&box(), &QCheckBox::clicked, this, [this] {
+        guarded([this] {
+            if (this->control() != nullptr) this->form().click(*this->control());
+        });
+    });
+}
+
+QCheckBox& CheckBoxPeer::box() const { return *static_cast<QCheckBox*>(widget()); }
+
+bool CheckBoxPeer::mousePressed(QMouseEvent& event, QWidget& /*target*/) {
+    if (event.button() == Qt::LeftButton) return refusesFocus();
+    form().click(*control(), static_cast<int>(event.button()));
+    return true;
+}
+
+void CheckBoxPeer::mirror(ui::Property property) {
+    if (property == ui::Property::Value) box().setChecked(as<ui::CheckBox>().Value() != 0);
+}
+
+} // namespace quillmere::qt

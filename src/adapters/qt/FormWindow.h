@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QWidget>
+
+namespace quillmere::qt {
+
+class FormPeer;
+
+/// The top-level window of a form.
+class FormWindow final : public QWidget {
+public:
+    FormWindow(FormPeer& peer, QWidget* parent);
+
+    /// Sizes the window by the form and the screen, and shows it over its parent.
+    void open();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    /// Qt moves the focus nowhere by itself.
+    bool focusNextPrevChild(bool next) override;
+
+private:
+    [[nodiscard]] QSize preferredSize() const;
+
+    FormPeer& peer_;
+    bool opened_ = false;
+};
+
+} // namespace quillmere::qt

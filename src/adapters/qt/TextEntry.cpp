@@ -1,0 +1,161 @@
+#include "adapters/qt/TextEntry.h"
+
+#include "adapters/qt/FormPeer.h"
+#include "adapters/qt/QtKeys.h"
+#include "adapters/qt/QtText.h"
+
+#include "platform/text/Text.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QRegularExpression>
+
+#include <utility>
+
+namespace quillmere::qt {
+
+namespace {
+
+/// Up to the first line break, as a box for one line takes it.
+QString firstLine(const QString& text) {
+    return text.left(text.indexOf(QRegularExpression(QStringLiteral("[\\r\\n]"))));
+}
+
+} // namespace
+
+bool TextEntry::isCoded() const { return box().Locked() && box().BackColor() == ui::colour::codedField; }
+
+char32_t TextEntry::admit(char32_t character) {
+    if (control() == nullptr) return 0;
+    const char32_t left = form().filterCharacter(*control(), character);
+    const bool stillHere = control() != nullptr && form().ActiveControl() == control();
+    return stillHere && left != ui::bellCharacter ? left : 0;
+}
+
+QString TextEntry::cutToRoom(const QString& text) const {
+    const std::size_t most = box().MaxLength();
+    if (most == 0) return text;
+    const std::size_t kept = text::length(toModel(shownText())) - text::length(toModel(selectedText()));
+    return firstCharacters(text, most > kept ? most - kept : 0);
+}
+
+void TextEntry::enterTyped(const QString& text) {
+    form().perform([&] {
+        QString admitted;
+        for (const char32_t character : text.toStdU32String()) {
+            const char32_t left = admit(character);
+            if (left >= U' ') admitted += QString::fromUcs4(&left, 1);
+        }
+        if (control() == nullptr || admitted.isEmpty() || box().Locked()) return;
+        const QString fitting = cutToRoom(admitted);
+        if (!fitting.isEmpty()) insert(fitting);
+        follow();
+    });
+}
+
+void TextEntry::enterPasted(const QString& text) {
+    form().perform([&] {
+        if (control() == nullptr || box().Locked()) return;
+        const QString fitting = cutToRoom(box().MultiLine() ? text : firstLine(text));
+        if (!fitting.isEmpty()) insert(fitting);
+        follow();
+    });
+}
+
+void TextEntry::enterBackspace() {
+    form().perform([&] {
+        const char32_t left = admit(ui::key::Backspace);
+        if (left == 0 || control() == nullptr || box().Locked()) return;
+        eraseBackwards();
+        follow();
+    });
+}
+
+void TextEntry::enterLineBreak() {
+    form().perform([&] {
+        const char32_t left = admit(ui::key::Enter);
+        if (left != ui::key::Enter || control() == nullptr || box().Locked()) return;
+        insert(QStringLiteral("\n"));
+        follow();
+    });
+}
+
+void TextEntry::follow() {
+    if (mirroring_ || control() == nullptr) return;
+    const QString shown = shownText();
+    const auto caret = text::length(toModel(shown.left(selectionStart())));
+    std::string edited = toModel(shown);
+    if (shown != fromModel(box().Text())) {
+        form().perform([&] { box().personEdited(std::move(edited), caret); });
+    } else {
+        box().setSelection(caret, text::length(toModel(selectedText())));
+    }
+}
+
+void TextEntry::openCodes() {
+    if (control() != nullptr && isCoded()) form().doubleClick(*control());
+}
+
+bool TextEntry::keyPressed(QKeyEvent& event) {
+    if (opensCodes(event) && isCoded()) {
+        openCodes();
+        return true;
+    }
+    if (event.matches(QKeySequence::Paste)) {
+        enterPasted(QGuiApplication::clipboard()->text());
+        return true;
+    }
+    if (isNativeCommand(event)) return false;
+    if (const QString typed = typedText(event); !typed.isEmpty()) {
+        enterTyped(typed);
+        return true;
+    }
+    const auto stroke = strokeOf(event);
+    if (!stroke) return false;
+    const bool plain = (stroke->shift & (ui::shift::Ctrl | ui::shift::Alt)) == 0;
+    if (stroke->code == ui::key::Backspace && plain) {
+        enterBackspace();
+    } else if (stroke->code == ui::key::Enter && plain) {
+        pressEnter();
+    } else {
+        form().pressKey(*stroke);
+        // The form around a box scrolls by these.
+        return stroke->code != ui::key::PageUp && stroke->code != ui::key::PageDown;
+    }
+    return true;
+}
+
+bool TextEntry::mousePressed(QMouseEvent& event, QWidget& target) {
+    // Scroll bars work without the focus; the list button comes here a second time when it fires.
+    if (target.inherits("QScrollBar")) return false;
+    const bool twice = event.type() == QEvent::MouseButtonDblClick && event.button() == Qt::LeftButton;
+    if (target.inherits("QToolButton")) return refusesFocus();
+    if (!twice) return !form().click(*control(), static_cast<int>(event.button()));
+    const bool reached = form().doubleClick(*control());
+    return !reached || control() == nullptr || box().Locked();
+}
+
+void TextEntry::mirror(ui::Property property) {
+    switch (property) {
+    case ui::Property::Text:
+    case ui::Property::Selection: {
+        const bool nested = std::exchange(mirroring_, true);
+        const QString text = fromModel(box().Text());
+        // An equal text stays, and with it an input that is being composed and what can be undone.
+        if (text != shownText()) showText(text);
+        const std::string before = text::left(box().Text(), box().SelStart());
+        const std::string inside = text::mid(box().Text(), box().SelStart() + 1, box().SelLength());
+        showSelection(static_cast<int>(fromModel(before).size()), static_cast<int>(fromModel(inside).size()));
+        mirroring_ = nested;
+        break;
+    }
+    case ui::Property::Locked:
+    case ui::Property::BackColor:
+        showLooks();
+        break;
+    default:
+        break;
+    }
+}
+
+} // namespace quillmere::qt
