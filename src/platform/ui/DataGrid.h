@@ -44,7 +44,8 @@ public:
     [[nodiscard]] std::optional<std::string> property(std::string_view name) const override;
 
 protected:
-    [[nodiscard]] bool isFocusKind() const override { return true; }
+    /// Without a source there is nothing to stand on.
+    [[nodiscard]] bool isFocusKind() const override { return source_ != nullptr; }
     void personKeyDown(const KeyStroke& stroke) override;
 
 private:

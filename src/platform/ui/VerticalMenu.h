@@ -26,9 +26,15 @@ public:
     [[nodiscard]] const std::vector<Group>& groups() const { return groups_; }
 
     [[nodiscard]] int AddressedGroup() const { return addressedGroup_; }
-    void setAddressedGroup(int group) { addressedGroup_ = group; }
+    void setAddressedGroup(int group) {
+        addressedGroup_ = group;
+        notify(Property::Current);
+    }
     [[nodiscard]] int AddressedItem() const { return addressedItem_; }
-    void setAddressedItem(int item) { addressedItem_ = item; }
+    void setAddressedItem(int item) {
+        addressedItem_ = item;
+        notify(Property::Current);
+    }
     /// The group on show, from 1.
     [[nodiscard]] int OpenGroup() const { return openGroup_; }
     void setOpenGroup(int group);
