@@ -1,13 +1,14 @@
 # Runs one scenario in a fresh folder of its own and compares what it prints with the transcript kept
 # beside the script:
-#   cmake -D RUNNER=program -D SCRIPT=x.scn -D EXPECTED=x.out -D WORK=folder -P RunScenario.cmake
+#   cmake -D RUNNER=program -D TOOLKIT=model -D SCRIPT=x.scn -D EXPECTED=x.out -D WORK=folder
+#       -P RunScenario.cmake
 # To take over a new transcript, read it, then copy WORK/transcript.out over EXPECTED.
 
 file(REMOVE_RECURSE ${WORK})
 file(MAKE_DIRECTORY ${WORK}/run)
 set(transcript ${WORK}/transcript.out)
 
-execute_process(COMMAND ${RUNNER} ${SCRIPT}
+execute_process(COMMAND ${RUNNER} --toolkit ${TOOLKIT} ${SCRIPT}
     WORKING_DIRECTORY ${WORK}/run
     OUTPUT_FILE ${transcript}
     ERROR_VARIABLE complaint
