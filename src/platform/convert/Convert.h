@@ -8,7 +8,8 @@
 namespace quillmere::convert {
 
 /// What can be converted to a number: blanks at both ends, a sign (in front or behind), digits with
-/// thousands separators, a decimal point, an exponent. The empty text is none.
+/// thousands separators, a decimal point, an exponent. The empty text is none, nor is a number that no
+/// double holds, nor one in full-width digits: an engine would store those as a text.
 [[nodiscard]] bool isNumeric(std::string_view text);
 
 /// Raises TypeMismatch when the text is not numeric.

@@ -35,6 +35,15 @@ void raiseOn(const std::error_code& error) {
     if (error) throw Error(failureOf(error));
 }
 
+/// A folder, a read-only file and the source itself are not copied over, whatever rights a user has.
+bool mayBeReplaced(const fs::path& target, const fs::path& source) {
+    std::error_code ignored;
+    const fs::file_status status = fs::status(target, ignored);
+    if (!fs::exists(status)) return true;
+    const bool writable = (status.permissions() & fs::perms::owner_write) != fs::perms::none;
+    return fs::is_regular_file(status) && writable && !fs::equivalent(source, target, ignored);
+}
+
 } // namespace
 
 bool exists(std::string_view path) {
@@ -65,6 +74,7 @@ void copyOver(std::string_view from, std::string_view to) {
     const fs::path source = pathOf(from);
     const fs::path target = pathOf(to);
     requireFile(source);
+    if (!mayBeReplaced(target, source)) throw Error(Failure::PermissionDenied);
     std::error_code error;
     fs::copy_file(source, target, fs::copy_options::overwrite_existing, error);
     raiseOn(error);

@@ -13,7 +13,8 @@ namespace quillmere::files {
 [[nodiscard]] std::uint64_t size(std::string_view path);
 /// Deletes a file, a read-only one too. Raises FileNotFound, PermissionDenied.
 void removeForced(std::string_view path);
-/// Copies a file over whatever is there. Raises FileNotFound, PathNotFound, PermissionDenied.
+/// Copies a file over whatever file is there, but not over a read-only one, a folder or itself. Raises
+/// FileNotFound, PathNotFound, PermissionDenied.
 void copyOver(std::string_view from, std::string_view to);
 /// The path with the machine's separators.
 [[nodiscard]] std::string native(std::string_view path);
