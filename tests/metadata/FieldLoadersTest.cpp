@@ -80,7 +80,8 @@ TEST_F(FieldLoadersTest, ColumnsAreFoundByNameWhateverTheirOrder) {
            "itemname text, tblname text)");
     db.run("insert into s_infoitem values (false, 'explain', 10, '3', 'A 5', 'yyyy', 'ZW', '6', 'int', "
            "'desc', 'A0201', 'A02')");
-    const cFieldItem& field = LoadFieldItems("A02")->Item("A02_A0201");
+    const auto fields = LoadFieldItems("A02");
+    const cFieldItem& field = fields->Item("A02_A0201");
     EXPECT_EQ(field.FldExplain, "explain");
     EXPECT_EQ(field.FieldLength, "6");
     EXPECT_EQ(field.Check, "A 5");
@@ -112,7 +113,8 @@ TEST_F(FieldLoadersTest, NullTextsReadAsEmpty) {
                  .check = std::nullopt,
                  .fldOrder = std::nullopt,
                  .fldExplain = std::nullopt});
-    const cFieldItem& field = LoadFieldItems("A09")->Item("A09_");
+    const auto fields = LoadFieldItems("A09");
+    const cFieldItem& field = fields->Item("A09_");
     EXPECT_EQ(field.ItemName + field.ItemDesc + field.FieldType + field.CodeTable, "");
     EXPECT_EQ(field.Style + field.Check + field.FldOrder + field.FldExplain, "");
 }
