@@ -90,6 +90,11 @@ void A1ctrlUser::setDGItems() {
     isGridLive_ = false;
     if (WhInfo.TabId.empty()) return;
     const GridStatement statement = makeGridStatement(WhInfo, row_.aliasedGridCatalogue);
+    if (adodcRs_) {
+        // Should the opening below fail, the grid still shows the old rows; they no longer reach the panel.
+        adodcRs_->onWillMove({});
+        adodcRs_->onMoveComplete({});
+    }
     adodcRs_ = std::make_shared<data::Recordset>();
     adodcRs_->onWillMove([this](data::MoveStatus& status) { AdodcRs_WillMove(status); });
     adodcRs_->onMoveComplete([this] { AdodcRs_MoveComplete(); });
