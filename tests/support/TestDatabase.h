@@ -66,6 +66,9 @@ public:
     /// The connection as it is published.
     [[nodiscard]] std::shared_ptr<data::Connection> connection() const { return recorder_; }
 
+    /// The database behind it all, neither recorded nor failing, for what fills it at a stroke.
+    [[nodiscard]] data::Connection& engine() { return *engine_; }
+
     /// Statements of the test itself.
     void run(std::string_view sql);
     [[nodiscard]] data::RowSet rows(std::string_view sql);
