@@ -6,6 +6,7 @@
 #include "metadata/Globals.h"
 #include "platform/Error.h"
 #include "platform/convert/Clock.h"
+#include "shell/frmPersonWh.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -30,6 +31,7 @@ struct CleanSlate {
 
     static void wipe() {
         clock::fix({});
+        frmPersonWh::releaseDefaultInstance();
         publishConnection(nullptr);
         gZZType = 0;
         gZZYear.clear();

@@ -4,6 +4,7 @@
 #include "metadata/FieldLoaders.h"
 #include "metadata/Globals.h"
 #include "metadata/Identity.h"
+#include "platform/Error.h"
 #include "platform/data/Connection.h"
 #include "platform/text/Text.h"
 #include "platform/ui/CoolBar.h"
@@ -34,6 +35,8 @@ constexpr std::array menuGroups{MenuGroup{"基本信息", 50}, MenuGroup{"项目
                                 MenuGroup{"计划信息", 20}, MenuGroup{"进展信息", 20},
                                 MenuGroup{"结题信息", 20}};
 
+std::unique_ptr<frmPersonWh> defaultWindow;
+
 } // namespace
 
 frmPersonWh::frmPersonWh() : Form("frmPersonWh", "信息维护") {
@@ -44,8 +47,13 @@ frmPersonWh::frmPersonWh() : Form("frmPersonWh", "信息维护") {
 frmPersonWh::~frmPersonWh() = default;
 
 frmPersonWh& frmPersonWh::defaultInstance() {
-    static frmPersonWh window;
-    return window;
+    if (!defaultWindow) defaultWindow = std::make_unique<frmPersonWh>();
+    return *defaultWindow;
+}
+
+void frmPersonWh::releaseDefaultInstance() {
+    if (defaultWindow && defaultWindow->isLoaded()) throw Error(Failure::InvalidCall);
+    defaultWindow.reset();
 }
 
 void frmPersonWh::buildWidgets() {

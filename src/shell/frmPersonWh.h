@@ -24,6 +24,9 @@ public:
 
     /// The window's single default instance, created on first use. It survives closing.
     [[nodiscard]] static frmPersonWh& defaultInstance();
+    /// Ends the default instance, with what it remembers of earlier runs; the next use makes a new one.
+    /// Raises InvalidCall while it is open.
+    static void releaseDefaultInstance();
 
     // Written by the entry object before the window is shown.
     std::string personID;

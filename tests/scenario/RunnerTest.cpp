@@ -67,6 +67,20 @@ TEST_F(Runner, PlaysEveryFileAndGivesTheWorstStatus) {
     EXPECT_EQ(ran.complaints, stopped + ":1: unknown command frobnicate\n");
 }
 
+TEST_F(Runner, AScriptSeesNothingOfTheOneBeforeIt) {
+    const std::string maintained =
+        write("a.scn", "database empty\n"
+                       "host OperationType 4\n"
+                       "host ZZtype 1\n"
+                       "host personID p\n"
+                       "sql \"insert into A01(A00,A0101,A0199) values('p','王芳',1)\"\n"
+                       "open\n"
+                       "  close\n"
+                       "expect window.WhState 4\n");
+    const std::string fresh = write("b.scn", "expect window.WhState 0\nexpect window.personID \"\"\n");
+    EXPECT_EQ(run({maintained, fresh}).status, Status::Held);
+}
+
 TEST_F(Runner, AFileThatCannotBeReadStops) {
     const Outcome ran = run({"nowhere.scn"});
     EXPECT_EQ(ran.status, Status::Stopped);
