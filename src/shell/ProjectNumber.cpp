@@ -64,7 +64,8 @@ std::string ListFilledSets(std::string_view id) {
             const data::RowSet count =
                 gConn().query("select count(1) from " + sets->Fields("tblname").toText() + " where A00='" +
                               std::string(id) + "'");
-            if (count.at(0, std::size_t{0}).toLong() > 0) filled += sets->Fields("tbldesc").toText() + "\r";
+            if (count.at(0, std::size_t{0}).toLong() > 0)
+                filled += sets->Fields("tbldesc").toTextOrEmpty() + "\r";
         }
     } catch (const Error&) {
         // What was gathered so far is the answer.
