@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace quillmere::host {
+
+/// What the command line asks for.
+struct CommandLine {
+    /// The register's file; empty when none is named.
+    QString database;
+    /// Where the guided tour leaves its pictures; empty for no tour.
+    QString tour;
+    /// Code of the bureau that the register is kept for; empty when it is kept for all of them.
+    QString unitCode;
+    bool help = false;
+    /// Why the command line is refused; empty when it is not.
+    QString complaint;
+};
+
+/// Reads the words behind the program's name.
+[[nodiscard]] CommandLine parseCommandLine(const QStringList& words);
+
+[[nodiscard]] QString helpText();
+
+} // namespace quillmere::host

@@ -1,0 +1,144 @@
+#include "register/Look.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QPainter>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QSvgRenderer>
+#include <QTranslator>
+#include <QWidget>
+
+#include <array>
+
+namespace quillmere::host::look {
+
+namespace {
+
+constexpr QColor toolColour{0x1F, 0x4E, 0x9C};
+constexpr QColor paleColour{0xB4, 0xBE, 0xCB};
+constexpr int fontPixels = 13;
+
+constexpr const char* styleSheet = R"(
+QWidget[role="topBar"] { background: #FFFFFF; border-bottom: 1px solid #D9E1EC; }
+QWidget[role="ground"] { background: #EEF2F7; }
+QFrame[role="card"] { background: #FFFFFF; border: 1px solid #D9E1EC; border-radius: 6px; }
+QFrame[role="separator"] { background: #D9E1EC; border: none; }
+QLabel { color: #16243A; background: transparent; }
+QLabel[role="count"] { color: #66758C; }
+QLabel[role="emptyTitle"] { color: #43536B; font-size: 15px; font-weight: bold; }
+QLabel[role="emptyHint"] { color: #66758C; }
+
+QToolButton { color: #16243A; background: transparent; border: none; border-radius: 5px; padding: 6px 11px 6px 9px; }
+QToolButton:hover { background: #EDF3FC; }
+QToolButton:pressed { background: #DCE8FA; }
+QToolButton:disabled { color: #A3AEBD; }
+QToolButton[primary="true"] { color: #FFFFFF; background: #2F6FD0; padding: 6px 30px 6px 10px; }
+QToolButton[primary="true"]:hover { background: #3E7DDC; }
+QToolButton[primary="true"]:pressed { background: #255BB0; }
+QToolButton[primary="true"]::menu-button { border: none; border-left: 1px solid #6E9DE2; width: 21px;
+    border-top-right-radius: 5px; border-bottom-right-radius: 5px; }
+QToolButton[primary="true"]::menu-button:hover { background: #4A86E0; }
+
+QPushButton[segment="true"] { color: #52627A; background: #FFFFFF; border: 1px solid #BECAD9; padding: 0 18px;
+    min-height: 28px; }
+QPushButton[segment="true"]:hover { background: #F3F7FD; }
+QPushButton[segment="true"]:checked { color: #FFFFFF; background: #2F6FD0; border-color: #2F6FD0; font-weight: bold; }
+QPushButton[segment="true"]:focus { border-color: #1B4A96; }
+QPushButton#persons { border-top-left-radius: 4px; border-bottom-left-radius: 4px; }
+QPushButton#units { border-top-right-radius: 4px; border-bottom-right-radius: 4px; border-left: none; }
+
+QLineEdit { color: #16243A; background: #FFFFFF; border: 1px solid #BECAD9; border-radius: 4px; padding: 0 4px;
+    min-height: 28px; selection-background-color: #2F6FD0; selection-color: #FFFFFF; }
+QLineEdit:hover { border-color: #94A8C2; }
+QLineEdit:focus { border: 2px solid #2F6FD0; padding: 0 3px; min-height: 26px; }
+QLineEdit QToolButton { padding: 0; background: transparent; }
+
+QTableView { color: #16243A; background: #FFFFFF; border: none; outline: none; gridline-color: #E6ECF4;
+    alternate-background-color: #F6F9FD; selection-background-color: #D6E6FB; selection-color: #16243A; }
+QTableView::item { padding: 0 8px; border: none; }
+QTableView::item:selected { background: #D6E6FB; color: #16243A; }
+QHeaderView { background: #EEF3F9; border: none; }
+QHeaderView::section { color: #2C3D57; background: #EEF3F9; font-weight: bold; border: none;
+    border-right: 1px solid #D9E1EC; border-bottom: 1px solid #D9E1EC; border-top: 1px solid #D9E1EC;
+    padding: 0 11px; }
+QScrollBar:vertical { background: transparent; width: 11px; margin: 1px; }
+QScrollBar::handle:vertical { background: #C3CFDE; border-radius: 4px; min-height: 30px; }
+QScrollBar::handle:vertical:hover { background: #A5B5C9; }
+QScrollBar:horizontal { background: transparent; height: 11px; margin: 1px; }
+QScrollBar::handle:horizontal { background: #C3CFDE; border-radius: 4px; min-width: 30px; }
+QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
+QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+
+QMenu { color: #16243A; background: #FFFFFF; border: 1px solid #BECAD9; padding: 4px; }
+QMenu::item { padding: 6px 26px 6px 30px; border-radius: 3px; }
+QMenu::item:selected { background: #E4EEFC; }
+QMenu::item:disabled { color: #66758C; padding-left: 12px; }
+QMenu::separator { height: 1px; background: #E6ECF4; margin: 4px 8px; }
+
+QStatusBar { background: #FFFFFF; border-top: 1px solid #D9E1EC; min-height: 28px; }
+QStatusBar::item { border: none; }
+QStatusBar QLabel { color: #52627A; padding: 0 6px; }
+QStatusBar QLabel[outcome="saved"] { color: #1B7F4B; font-weight: bold; }
+QStatusBar QLabel[outcome="failure"] { color: #C0362C; font-weight: bold; }
+)";
+
+/// Lines on a ground of 24 by 24.
+constexpr std::array drawings{
+    "M12 5v14M5 12h14",
+    "M4 20h4L19 9l-4-4L4 16zM13 7l4 4",
+    "M5 6h14v14H5zM5 10h14M9 3.500v4M15 3.500v4M8.500 14h3M8.500 17h6",
+    "M4 20h16M6.500 20v-6M11 20V9M15.500 20v-8M20 20V5",
+    "M4 12a8 8 0 1 0 16 0a8 8 0 1 0-16 0M8 12.500l2.800 2.800L16 9.500",
+    "M4.500 11a6.500 6.500 0 1 0 13 0a6.500 6.500 0 1 0-13 0M16 16l4.500 4.500",
+    "M7 7l10 10M17 7L7 17",
+};
+
+QPixmap pixmap(Glyph glyph, const QColor& colour, int size) {
+    const QString drawing =
+        QStringLiteral("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 24 24'>"
+                       "<path d='%1' fill='none' stroke='%2' stroke-width='1.8' "
+                       "stroke-linecap='round' stroke-linejoin='round'/></svg>")
+            .arg(QLatin1String(drawings.at(static_cast<std::size_t>(glyph))), colour.name());
+    QSvgRenderer renderer(drawing.toUtf8());
+    QPixmap picture(size, size);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    renderer.render(&painter);
+    return picture;
+}
+
+} // namespace
+
+void dress(QApplication& application) {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(0xEE, 0xF2, 0xF7));
+    palette.setColor(QPalette::WindowText, QColor(0x16, 0x24, 0x3A));
+    palette.setColor(QPalette::Highlight, QColor(0x2F, 0x6F, 0xD0));
+    palette.setColor(QPalette::PlaceholderText, QColor(0x7C, 0x88, 0x99));
+    QApplication::setPalette(palette);
+    QFont font;
+    font.setFamilies({QStringLiteral("Microsoft YaHei UI"), QStringLiteral("Noto Sans CJK SC")});
+    font.setPixelSize(fontPixels);
+    QApplication::setFont(font);
+
+    auto* translator = new QTranslator(&application);
+    if (translator->load(QStringLiteral("qtbase_zh_CN"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(translator);
+}
+
+void dress(QWidget& part) { part.setStyleSheet(QString::fromUtf8(styleSheet)); }
+
+QIcon icon(Glyph glyph, const QColor& colour) {
+    QIcon result;
+    for (const int size : {18, 36}) {
+        result.addPixmap(pixmap(glyph, colour, size));
+        result.addPixmap(pixmap(glyph, paleColour, size), QIcon::Disabled);
+    }
+    return result;
+}
+
+QIcon icon(Glyph glyph) { return icon(glyph, toolColour); }
+
+} // namespace quillmere::host::look
