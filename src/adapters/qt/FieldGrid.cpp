@@ -7,6 +7,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QResizeEvent>
 
 #include <algorithm>
 
@@ -223,6 +224,11 @@ QSize FieldScroll::sizeHint() const {
     // Captions that run over two lines need a height that depends on the width.
     const bool known = fields.hasHeightForWidth() && isVisible();
     return {600, known ? fields.heightForWidth(viewport()->width()) : fields.sizeHint().height()};
+}
+
+QSize FieldScroll::minimumSizeHint() const {
+    constexpr QSize fewRows(200, 96);
+    return fewRows.boundedTo(sizeHint());
 }
 
 void FieldScroll::resizeEvent(QResizeEvent* event) {

@@ -54,7 +54,8 @@ public:
     explicit FieldScroll(FieldGrid* fields);
 
     [[nodiscard]] QSize sizeHint() const override;
-    [[nodiscard]] QSize minimumSizeHint() const override { return {200, 96}; }
+    /// A few rows, where there are that many.
+    [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

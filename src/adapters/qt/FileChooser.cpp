@@ -45,6 +45,7 @@ std::string chooseFile(const ui::FileDialog& dialog, QWidget* parent) {
     });
     chooser.setWindowModality(Qt::ApplicationModal);
     chooser.show();
+    chooser.activateWindow();
     session.run();
     return chosen;
 }

@@ -87,7 +87,7 @@ QTableView { gridline-color: #E6ECF4; }
 QFrame[role="card"] QTableView { border: 1px solid transparent; border-radius: 6px; }
 QFrame[role="card"] QTableView:focus { border: 1px solid #2F6FD0; }
 QTableView::item { padding: 0 8px; border: none; }
-QListView::item { padding-left: 6px; }
+QListView::item { padding: 0 6px; border: none; }
 QHeaderView { background: #EEF3F9; border: none; border-top-left-radius: 5px; border-top-right-radius: 5px; }
 QHeaderView::section {
     color: #2C3D57; background: transparent; font-weight: bold; border: none;
