@@ -25,15 +25,19 @@ bool liesBelow(const fs::path& path) {
            std::ranges::find(path, "..") == path.end();
 }
 
+/// Elsewhere on the machine only what looks like a photo may be removed.
+bool mayGo(const fs::directory_entry& entry, bool below) {
+    return entry.is_regular_file() && (below || entry.path().extension() == ".jpg");
+}
+
 } // namespace
 
 void PhotoFolder::make(const std::string& directory) {
     const fs::path path = fromUtf8(directory);
-    if (!liesBelow(path)) throw Stop{directory + " does not lie below the working directory"};
     try {
         fs::create_directories(path);
         for (const auto& entry : fs::directory_iterator(path)) {
-            if (!entry.is_regular_file()) throw Stop{directory + " holds more than files"};
+            if (!mayGo(entry, liesBelow(path))) throw Stop{directory + " holds more than photo files"};
         }
         for (const auto& entry : fs::directory_iterator(path))
             fs::remove(entry.path());

@@ -11,8 +11,8 @@ namespace quillmere::scenario {
 /// The directory of photo files that a scenario works on.
 class PhotoFolder {
 public:
-    /// Makes the directory anew, empty. To spare a stranger's files it must lie below the working
-    /// directory and hold nothing but files; Stop otherwise.
+    /// Makes the directory anew, empty. To spare a stranger's files it must hold nothing but files, and
+    /// nothing but ".jpg" files when it does not lie below the working directory; Stop otherwise.
     void make(const std::string& directory);
     /// A JPEG, or a file that is no image, of `size` bytes. Raise Stop.
     void addPicture(const std::string& name, std::size_t size) const;

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 namespace quillmere::test {
 
 namespace {
@@ -114,6 +116,17 @@ TEST(SetUpCommands, PhotosMakesAnEmptyDirectoryForTheHost) {
     const Played played = play("photos photo-test\nfile b.jpg 150\nbadfile a.jpg 7\nfiles\n"
                                "photos photo-test\nfiles\n");
     EXPECT_EQ(played.printed, (Lines{"FILE a.jpg 7", "FILE b.jpg 150"}));
+}
+
+TEST(SetUpCommands, ThePhotoDirectoryMayStandAnywhere) {
+    const std::string elsewhere = testing::TempDir() + "quillmere-photos-elsewhere";
+    const Played played =
+        play("photos " + elsewhere + "\nfile a.jpg 150\nfiles\nphotos " + elsewhere + "\nfiles\n");
+    EXPECT_EQ(played.printed, Lines{"FILE a.jpg 150"});
+    const Played kept = play("photos " + elsewhere + "\nfile notes 150\nphotos " + elsewhere + "\n");
+    EXPECT_EQ(kept.status, Status::Stopped);
+    EXPECT_EQ(kept.complaints, "script:3: " + elsewhere + " holds more than photo files\n");
+    std::filesystem::remove_all(elsewhere);
 }
 
 TEST(SetUpCommands, OneScriptLeavesNothingToTheNext) {
