@@ -58,6 +58,11 @@ void Control::setContainer(Control* container) {
 
 Form* Control::form() const { return host_ == nullptr ? nullptr : host_->topForm(); }
 
+bool Control::isRemoved() const {
+    const Control* bearer = host_ == nullptr ? nullptr : host_->asControl();
+    return removed_ || (bearer != nullptr && bearer->isRemoved());
+}
+
 bool Control::isShown() const {
     if (!visible_ || removed_) return false;
     if (container_ != nullptr) {
@@ -79,7 +84,7 @@ bool Control::isUsable() const {
 bool Control::canTakeFocus() const { return isFocusKind() && isShown() && isUsable(); }
 
 void Control::SetFocus() {
-    if (form() != nullptr) form()->requestFocus(*this);
+    if (form() != nullptr) form()->moveFocus(*this);
 }
 
 bool Control::hasFocus() const { return form() != nullptr && form()->ActiveControl() == this; }

@@ -122,8 +122,9 @@ public:
     [[nodiscard]] ControlHost* host() const { return host_; }
     /// The form at the top, none before the control is placed.
     [[nodiscard]] Form* form() const;
-    /// True once the control was taken off its host; it is destroyed when the running event ends.
-    [[nodiscard]] bool isRemoved() const { return removed_; }
+    /// True once the control, or what bears it, was taken off its host; it is destroyed when the
+    /// running event ends.
+    [[nodiscard]] bool isRemoved() const;
 
     /// Visible and on show, Enabled and usable: with all that it stands in.
     [[nodiscard]] bool isShown() const;

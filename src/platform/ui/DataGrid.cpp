@@ -23,6 +23,7 @@ void DataGrid::setDataSource(std::shared_ptr<data::Recordset> source) {
     if (source_) source_->onViewChange([this] { notify(hasRows() ? Property::Current : Property::Rows); });
     notify(Property::Columns);
     notify(Property::Rows);
+    if (form() != nullptr) form()->dropFocusFromUnusable();
 }
 
 void DataGrid::setColumnWidth(std::size_t column, int twips) {
@@ -62,7 +63,8 @@ bool DataGrid::clickRow(int row) {
     form()->perform([&] {
         if (!canTakeFocus() || !form()->requestFocus(*this)) return;
         reached = true;
-        goTo(row);
+        // What the focus left may have changed the rows.
+        if (row <= static_cast<int>(rowCount())) goTo(row);
     });
     return reached;
 }

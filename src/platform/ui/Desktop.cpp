@@ -11,7 +11,7 @@ Desktop* chosenDesktop = nullptr;
 } // namespace
 
 void Desktop::showModal(Form& form) {
-    form.load();
+    if (!form.isLoaded()) form.load();
     if (!form.isLoaded()) return;
     open_.push_back(&form);
     try {

@@ -37,7 +37,8 @@ public:
     virtual Answer msgBox(const MessageBox& box) = 0;
 
     /// Loads the form, shows it and returns when it has closed. A form that unloads itself while
-    /// loading is not shown. What an event of the form threw comes out here, with the form closed.
+    /// loading is not shown; one that was only hidden is not loaded anew. What an event of the form
+    /// threw comes out here, with the form closed.
     void showModal(Form& form);
 
     /// The chosen path, empty when the dialog was cancelled.

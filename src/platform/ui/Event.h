@@ -14,8 +14,9 @@ public:
     explicit Subscription(std::shared_ptr<bool> live) : live_(std::move(live)) {}
     Subscription(Subscription&&) noexcept = default;
     Subscription& operator=(Subscription&& other) noexcept {
+        std::shared_ptr<bool> taken = std::move(other.live_);
         end();
-        live_ = std::move(other.live_);
+        live_ = std::move(taken);
         return *this;
     }
     Subscription(const Subscription&) = delete;
@@ -40,32 +41,33 @@ public:
 
     /// Listens until the result goes out of scope.
     [[nodiscard]] Subscription subscribe(Handler handler) {
-        auto live = std::make_shared<bool>(true);
-        slots_.push_back({live, std::make_shared<Handler>(std::move(handler))});
-        return Subscription(live);
+        const auto slot = std::make_shared<Slot>(std::move(handler));
+        slots_.push_back(slot);
+        // The flag lives inside the slot, and keeps it.
+        return Subscription(std::shared_ptr<bool>(slot, &slot->live));
     }
 
     /// Listens as long as the event lives: for handlers of the owner of the control.
-    void connect(Handler handler) {
-        slots_.push_back({std::make_shared<bool>(true), std::make_shared<Handler>(std::move(handler))});
-    }
+    void connect(Handler handler) { slots_.push_back(std::make_shared<Slot>(std::move(handler))); }
 
     void raise(Args... args) {
         if (slots_.empty()) return;
         // A copy, since a handler may subscribe, or end, while the event runs.
         const auto listening = slots_;
         for (const auto& slot : listening) {
-            if (*slot.live) (*slot.handler)(args...);
+            if (slot->live) slot->handler(args...);
         }
-        std::erase_if(slots_, [](const Slot& slot) { return !*slot.live; });
+        std::erase_if(slots_, [](const auto& slot) { return !slot->live; });
     }
 
 private:
     struct Slot {
-        std::shared_ptr<bool> live;
-        std::shared_ptr<Handler> handler;
+        explicit Slot(Handler listener) : handler(std::move(listener)) {}
+
+        Handler handler;
+        bool live = true;
     };
-    std::vector<Slot> slots_;
+    std::vector<std::shared_ptr<Slot>> slots_;
 };
 
 } // namespace quillmere::ui

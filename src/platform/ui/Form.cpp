@@ -31,14 +31,20 @@ void Form::load() {
 void Form::show() {
     if (!loaded_) return;
     open_ = true;
-    onResize();
-    perform([this] { onActivate(); });
+    perform([this] {
+        onResize();
+        if (open_) onActivate();
+    });
 }
 
 void Form::unload() {
     if (!loaded_) return;
     loaded_ = false;
     open_ = false;
+    // A form that is loaded again begins afresh, without the focus that it had.
+    toShow_.clear();
+    injected_.clear();
+    setActive(nullptr);
     onUnload();
     if (formView_ != nullptr) formView_->closed();
 }
@@ -71,8 +77,10 @@ bool Form::requestFocus(Control& target) {
     if (Control* left = active_; left != nullptr) {
         setActive(nullptr);
         left->LostFocus.raise();
+        // A handler may have put the focus elsewhere, and it has the last word.
+        if (active_ != nullptr) return active_ == &target;
     }
-    if (!target.canTakeFocus()) return false;
+    if (!open_ || !target.canTakeFocus()) return false;
     setActive(&target);
     target.GotFocus.raise();
     return true;
@@ -85,15 +93,16 @@ void Form::dropFocusFromUnusable() {
 
 namespace {
 
-void collectStops(const ControlHost& host, std::vector<Control*>& stops) {
+/// In the order of Tab. `here` counts as a stop too, so that Tab goes on from wherever the focus is.
+void collectStops(const ControlHost& host, const Control* here, std::vector<Control*>& stops) {
     std::vector<Control*> ordered;
     for (const auto& control : host.Controls())
         ordered.push_back(control.get());
     std::ranges::stable_sort(ordered, {}, &Control::TabIndex);
     for (Control* control : ordered) {
         if (auto* nested = dynamic_cast<UserControl*>(control); nested != nullptr) {
-            collectStops(*nested, stops);
-        } else if (control->TabStop() && control->canTakeFocus()) {
+            collectStops(*nested, here, stops);
+        } else if (control == here || (control->TabStop() && control->canTakeFocus())) {
             stops.push_back(control);
         }
     }
@@ -103,7 +112,7 @@ void collectStops(const ControlHost& host, std::vector<Control*>& stops) {
 
 std::vector<Control*> Form::tabOrder() const {
     std::vector<Control*> stops;
-    collectStops(*this, stops);
+    collectStops(*this, nullptr, stops);
     return stops;
 }
 
@@ -148,7 +157,7 @@ void Form::settle() {
         if (!toShow_.empty()) {
             UserControl* shown = toShow_.front();
             toShow_.erase(toShow_.begin());
-            perform([&] { shown->Shown.raise(); });
+            if (shown->Visible()) perform([&] { shown->Shown.raise(); });
             continue;
         }
         const KeyStroke stroke = injected_.front();
@@ -169,7 +178,7 @@ void Form::announceShown(UserControl& control) {
 }
 
 void Form::bury(std::unique_ptr<Control> control) {
-    std::erase(toShow_, control.get());
+    std::erase_if(toShow_, [](const UserControl* waiting) { return waiting->isRemoved(); });
     graveyard_.push_back(std::move(control));
 }
 
@@ -201,7 +210,8 @@ void Form::typeCharacter(char32_t character) {
 }
 
 void Form::pressTab(bool back) {
-    const auto stops = tabOrder();
+    std::vector<Control*> stops;
+    collectStops(*this, active_, stops);
     if (stops.empty()) return;
     const auto here = std::ranges::find(stops, active_);
     if (here == stops.end()) {
@@ -249,26 +259,28 @@ void Form::selectAll() {
     });
 }
 
+bool Form::isWithinReach(const Control& target) const {
+    return open_ && target.isShown() && target.isUsable();
+}
+
 bool Form::click(Control& target, int button) {
-    bool reached = true;
+    bool reached = false;
     perform([&] {
-        if (!target.isShown() || !target.isUsable()) {
-            reached = false;
-            return;
-        }
-        if (target.isFocusKind()) reached = requestFocus(target);
+        // A handler on the way may close the form, or hide, disable or remove the control.
+        if (!isWithinReach(target) || (target.isFocusKind() && !requestFocus(target))) return;
+        reached = isWithinReach(target);
         if (!reached) return;
         target.MouseDown.raise(button);
-        if (button == mouse::Left && !target.isRemoved()) target.personClick();
+        if (button == mouse::Left && isWithinReach(target)) target.personClick();
     });
     return reached;
 }
 
 bool Form::doubleClick(Control& target) {
-    bool reached = true;
+    bool reached = false;
     perform([&] {
         reached = click(target);
-        if (reached && !target.isRemoved()) target.DblClick.raise();
+        if (reached && isWithinReach(target)) target.DblClick.raise();
     });
     return reached;
 }

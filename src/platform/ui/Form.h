@@ -118,6 +118,8 @@ private:
     void characterRoad(char32_t character);
     [[nodiscard]] std::vector<UserControl*> hostsOf(const Control& control) const;
     void setActive(Control* control);
+    /// Whether a person can click it now.
+    [[nodiscard]] bool isWithinReach(const Control& target) const;
 
     std::string name_;
     std::string caption_;

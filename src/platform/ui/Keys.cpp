@@ -33,21 +33,16 @@ constexpr std::array namedKeys{
 
 std::vector<KeyStroke> parseKeys(std::string_view sequence) {
     std::vector<KeyStroke> strokes;
-    int state = shift::None;
     while (!sequence.empty()) {
-        if (sequence.front() == '+') {
-            state |= shift::Shift;
-            sequence.remove_prefix(1);
-            continue;
-        }
+        const bool held = sequence.front() == '+';
+        if (held) sequence.remove_prefix(1);
         const auto close = sequence.find('}');
-        if (sequence.front() != '{' || close == std::string_view::npos) throw Error(Failure::InvalidCall);
+        if (!sequence.starts_with('{') || close == std::string_view::npos) throw Error(Failure::InvalidCall);
         const auto name = sequence.substr(1, close - 1);
         const auto found = std::ranges::find_if(
             namedKeys, [&](const NamedKey& named) { return text::equalsNoCase(named.name, name); });
         if (found == namedKeys.end()) throw Error(Failure::InvalidCall);
-        strokes.push_back({found->code, state});
-        state = shift::None;
+        strokes.push_back({found->code, held ? shift::Shift : shift::None});
         sequence.remove_prefix(close + 1);
     }
     return strokes;

@@ -15,6 +15,7 @@ void ListBox::AddItem(std::string text) {
 void ListBox::setItems(std::vector<std::string> items) {
     items_ = std::move(items);
     listIndex_ = -1;
+    rowUnderPointer_ = -1;
     notify(Property::Items);
 }
 

@@ -38,21 +38,48 @@ std::size_t Mask::nextGroup(std::size_t from) const {
     return nextDigitPosition(from);
 }
 
+bool Mask::hasShape(std::u32string_view text) const {
+    bool fits = text.size() == mask_.size();
+    for (std::size_t i = 0; fits && i < mask_.size(); ++i)
+        fits = takesDigit(i) ? text[i] == prompt_ || isDigit(text[i]) : text[i] == mask_[i];
+    return fits;
+}
+
 void Mask::fit(State& state) const {
-    const std::u32string blank = empty();
-    bool fits = state.text.size() == blank.size();
-    for (std::size_t i = 0; fits && i < blank.size(); ++i) {
-        const char32_t character = state.text[i];
-        fits = takesDigit(i) ? character == prompt_ || isDigit(character) : character == blank[i];
+    state.caret = std::min(state.caret, state.text.size());
+    state.selected = std::min(state.selected, state.text.size() - state.caret);
+    if (hasShape(state.text)) return;
+    const auto poured = [&](std::size_t count) {
+        State result{empty(), 0, 0};
+        pour(result, std::u32string_view(state.text).substr(0, count));
+        return result;
+    };
+    // A position goes where pouring the text before it leads.
+    const std::size_t caret = poured(state.caret).caret;
+    const std::size_t end = poured(state.caret + state.selected).caret;
+    state = {poured(state.text.size()).text, caret, end - caret};
+}
+
+void Mask::pour(State& state, std::u32string_view text) const {
+    bool separated = true;
+    for (const char32_t character : text) {
+        if (isDigit(character)) {
+            put(state, character);
+            separated = false;
+        } else if (!separated) {
+            // The group just written is complete, also when it is shorter than its places.
+            const bool atGroupEnd = !takesDigit(state.caret);
+            state.caret = atGroupEnd ? nextDigitPosition(state.caret) : nextGroup(state.caret);
+            separated = true;
+        }
     }
-    if (fits) return;
-    // A program may have set a text of another shape; editing pours its digits through the mask.
-    State poured{blank, 0, 0};
-    for (const char32_t character : state.text) {
-        if (isDigit(character)) type(poured, character);
-    }
-    const bool whole = state.selected >= state.text.size();
-    state = {poured.text, whole ? 0 : std::min(state.caret, blank.size()), whole ? blank.size() : 0};
+}
+
+void Mask::put(State& state, char32_t digit) const {
+    const std::size_t position = nextDigitPosition(state.caret);
+    if (position >= mask_.size()) return;
+    state.text[position] = toDigit(digit);
+    state.caret = position + 1;
 }
 
 void Mask::clearSelection(State& state) const {
@@ -64,18 +91,16 @@ void Mask::clearSelection(State& state) const {
 }
 
 void Mask::type(State& state, char32_t character) const {
-    fit(state);
     if (isDigit(character)) {
+        fit(state);
         clearSelection(state);
-        const std::size_t position = nextDigitPosition(state.caret);
-        if (position >= mask_.size()) return;
-        state.text[position] = toDigit(character);
-        state.caret = position + 1;
+        put(state, character);
         return;
     }
-    if (character == U'#') return;
+    if (character == U'#' || state.selected != 0 || mask_.find(character) == std::u32string::npos) return;
+    fit(state);
     const std::size_t literal = mask_.find(character, state.caret);
-    if (literal != std::u32string::npos && state.selected == 0) state.caret = literal + 1;
+    if (literal != std::u32string::npos) state.caret = literal + 1;
 }
 
 void Mask::backspace(State& state) const {
@@ -105,20 +130,15 @@ void Mask::erase(State& state) const {
 }
 
 void Mask::paste(State& state, std::u32string_view text) const {
+    if (hasShape(text)) {
+        state = {std::u32string(text), text.size(), 0};
+        std::ranges::transform(state.text, state.text.begin(), toDigit);
+        return;
+    }
+    if (std::ranges::none_of(text, isDigit)) return;
     fit(state);
     clearSelection(state);
-    bool separated = true;
-    for (const char32_t character : text) {
-        if (isDigit(character)) {
-            type(state, character);
-            separated = false;
-        } else if (!separated) {
-            // The group just written is complete, also when it is shorter than its places.
-            const bool atGroupEnd = !takesDigit(state.caret);
-            state.caret = atGroupEnd ? nextDigitPosition(state.caret) : nextGroup(state.caret);
-            separated = true;
-        }
-    }
+    pour(state, text);
 }
 
 } // namespace quillmere::ui

@@ -24,10 +24,13 @@ public:
 
     /// A digit goes to the next digit position; a literal of the mask moves the caret behind its
     /// next place, so that "1990年3月" can be typed as it reads. Anything else changes nothing.
+    ///
+    /// A program may have set a text of another shape: any edit first pastes it into the empty mask.
     void type(State& state, char32_t character) const;
     void backspace(State& state) const;
     void erase(State& state) const;
-    /// As typed, with any run of other characters ("-", "/", ".") moving on to the next group.
+    /// As typed, with any run of other characters ("-", "/", ".") moving on to the next group. What
+    /// was copied from a box of this mask replaces the whole; a text without a digit changes nothing.
     void paste(State& state, std::u32string_view text) const;
 
     [[nodiscard]] static bool isDigit(char32_t character);
@@ -38,7 +41,11 @@ private:
     [[nodiscard]] bool takesDigit(std::size_t position) const;
     [[nodiscard]] std::size_t nextDigitPosition(std::size_t from) const;
     [[nodiscard]] std::size_t nextGroup(std::size_t from) const;
+    /// Whether a text has the mask's literals in place and digits or prompt characters between.
+    [[nodiscard]] bool hasShape(std::u32string_view text) const;
     void fit(State& state) const;
+    void pour(State& state, std::u32string_view text) const;
+    void put(State& state, char32_t digit) const;
     void clearSelection(State& state) const;
 
     std::u32string mask_;

@@ -19,27 +19,31 @@ void MaskEdBox::setText(std::string text) {
     const std::size_t length = text::length(text);
     const bool differs = text_ != text;
     text_ = std::move(text);
-    setSelection(std::min(selStart_, length), 0);
+    select({std::min(selection_.start, length), 0, false});
     if (!differs) return;
     notify(Property::Text);
     Change.raise();
 }
 
 void MaskEdBox::setSelection(std::size_t start, std::size_t length) {
-    if (start == selStart_ && length == selLength_) return;
-    selStart_ = start;
-    selLength_ = length;
+    const Selection wanted = Selection{start, length, false}.within(text::length(text_));
+    // The same characters may be on show with the caret before them: that stays.
+    if (wanted.start != selection_.start || wanted.length != selection_.length) select(wanted);
+}
+
+void MaskEdBox::select(const Selection& selection) {
+    if (selection == selection_) return;
+    selection_ = selection;
     notify(Property::Selection);
 }
 
-Mask::State MaskEdBox::state() const { return {text::decode(text_), selStart_, selLength_}; }
+Mask::State MaskEdBox::state() const { return {text::decode(text_), selection_.start, selection_.length}; }
 
 void MaskEdBox::apply(const Mask::State& state) {
     std::string changed = text::encode(state.text);
     const bool differs = changed != text_;
     text_ = std::move(changed);
-    selStart_ = state.caret;
-    selLength_ = state.selected;
+    selection_ = {state.caret, state.selected, false};
     if (differs) notify(Property::Text);
     notify(Property::Selection);
     if (differs) Change.raise();
@@ -66,20 +70,23 @@ void MaskEdBox::selectAll() { setSelection(0, text::length(text_)); }
 
 void MaskEdBox::personKeyDown(const KeyStroke& stroke) {
     const std::size_t length = text::length(text_);
-    const std::size_t end = selStart_ + selLength_;
+    const std::size_t caret = selection_.caret();
     const bool extend = (stroke.shift & shift::Shift) != 0;
+    const bool collapses = selection_.length != 0 && !extend;
     switch (stroke.code) {
     case key::Home:
-        setSelection(0, extend ? selStart_ : 0);
+        select(selection_.movedTo(0, extend));
         break;
     case key::End:
-        extend ? setSelection(selStart_, length - std::min(selStart_, length)) : setSelection(length, 0);
+        select(selection_.movedTo(length, extend));
         break;
     case key::Left:
-        if (end > 0) setSelection(selLength_ != 0 ? selStart_ : end - 1, 0);
+        if (collapses || caret > 0)
+            select(selection_.movedTo(collapses ? selection_.start : caret - 1, extend));
         break;
     case key::Right:
-        if (end < length || selLength_ != 0) setSelection(selLength_ != 0 ? end : end + 1, 0);
+        if (collapses || caret < length)
+            select(selection_.movedTo(collapses ? selection_.end() : caret + 1, extend));
         break;
     case key::Delete: {
         Mask::State edited = state();
@@ -98,8 +105,8 @@ std::optional<std::string> MaskEdBox::property(std::string_view name) const {
     if (is("Mask")) return maskText_;
     if (is("Format")) return format_;
     if (is("PromptChar")) return text::encode(promptChar_);
-    if (is("SelStart")) return std::to_string(selStart_);
-    if (is("SelLength")) return std::to_string(selLength_);
+    if (is("SelStart")) return std::to_string(selection_.start);
+    if (is("SelLength")) return std::to_string(selection_.length);
     return Control::property(name);
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/ui/Control.h"
 #include "platform/ui/Mask.h"
+#include "platform/ui/Selection.h"
 
 #include <cstddef>
 
@@ -21,9 +22,10 @@ public:
     [[nodiscard]] char32_t PromptChar() const { return promptChar_; }
     /// The mask with every "#" replaced by the prompt character.
     [[nodiscard]] const std::string& emptyText() const { return emptyText_; }
-    [[nodiscard]] std::size_t SelStart() const { return selStart_; }
-    [[nodiscard]] std::size_t SelLength() const { return selLength_; }
+    [[nodiscard]] std::size_t SelStart() const { return selection_.start; }
+    [[nodiscard]] std::size_t SelLength() const { return selection_.length; }
     void setSelStart(std::size_t start) { setSelection(start, 0); }
+    /// Cut to the text.
     void setSelection(std::size_t start, std::size_t length);
 
     [[nodiscard]] std::optional<std::string> property(std::string_view name) const override;
@@ -40,6 +42,7 @@ protected:
 private:
     [[nodiscard]] Mask::State state() const;
     void apply(const Mask::State& state);
+    void select(const Selection& selection);
 
     std::string maskText_;
     std::string format_;
@@ -47,8 +50,7 @@ private:
     Mask mask_;
     std::string emptyText_;
     std::string text_;
-    std::size_t selStart_ = 0;
-    std::size_t selLength_ = 0;
+    Selection selection_;
 };
 
 } // namespace quillmere::ui

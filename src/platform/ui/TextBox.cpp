@@ -6,11 +6,53 @@
 
 namespace quillmere::ui {
 
+namespace {
+
+constexpr std::u32string_view lineBreak = U"\r\n";
+/// What a keyboard sends for a deletion by word.
+constexpr char32_t deleteCharacter = 127;
+
+bool isLineBreak(std::u32string_view all, std::size_t at) { return all.substr(at, 2) == lineBreak; }
+
+/// How many characters before or behind the caret a key goes over: a line break goes as one.
+std::size_t stepBack(std::u32string_view all, std::size_t caret) {
+    if (caret > 1 && isLineBreak(all, caret - 2)) return 2;
+    return caret > 0 ? 1 : 0;
+}
+
+std::size_t stepOn(std::u32string_view all, std::size_t caret) {
+    if (caret >= all.size()) return 0;
+    return isLineBreak(all, caret) ? 2 : 1;
+}
+
+/// With "\r\n" for every line break, whatever it was written as.
+std::u32string withWholeBreaks(std::u32string_view all) {
+    std::u32string whole;
+    for (std::size_t at = 0; at < all.size(); ++at) {
+        if (isLineBreak(all, at)) ++at;
+        if (all[at] == U'\r' || all[at] == U'\n')
+            whole += lineBreak;
+        else
+            whole += all[at];
+    }
+    return whole;
+}
+
+/// What of an entry there is room for beside the characters that stay. A line break is not torn.
+std::u32string_view fitting(std::u32string_view entry, std::size_t kept, std::size_t most) {
+    std::size_t room = most > kept ? most - kept : 0;
+    if (room >= entry.size()) return entry;
+    if (room > 0 && isLineBreak(entry, room - 1)) --room;
+    return entry.substr(0, room);
+}
+
+} // namespace
+
 void TextBox::setText(std::string text) {
     const std::size_t length = text::length(text);
     const bool differs = text_ != text;
     text_ = std::move(text);
-    setSelection(std::min(selStart_, length), 0);
+    select({std::min(selection_.start, length), 0, false});
     if (!differs) return;
     notify(Property::Text);
     Change.raise();
@@ -35,9 +77,14 @@ void TextBox::setBackColor(Colour colour) {
 }
 
 void TextBox::setSelection(std::size_t start, std::size_t length) {
-    if (start == selStart_ && length == selLength_) return;
-    selStart_ = start;
-    selLength_ = length;
+    const Selection wanted = Selection{start, length, false}.within(text::length(text_));
+    // The same characters may be on show with the caret before them: that stays.
+    if (wanted.start != selection_.start || wanted.length != selection_.length) select(wanted);
+}
+
+void TextBox::select(const Selection& selection) {
+    if (selection == selection_) return;
+    selection_ = selection;
     notify(Property::Selection);
 }
 
@@ -48,28 +95,27 @@ void TextBox::personEdited(std::string text, std::size_t selStart) {
         notify(Property::Text);
         return;
     }
-    selStart_ = selStart;
-    selLength_ = 0;
+    selection_ = {std::min(selStart, length), 0, false};
     if (text_ == text) return;
     text_ = std::move(text);
     notify(Property::Text);
     Change.raise();
 }
 
+void TextBox::enter(std::u32string_view entry) {
+    if (maxLength_ != 0) entry = fitting(entry, text::length(text_) - selection_.length, maxLength_);
+    // An entry that has no room does not take away what is selected either.
+    if (!entry.empty()) replaceSelection(entry);
+}
+
 void TextBox::replaceSelection(std::u32string_view with) {
     if (locked_) return;
     std::u32string all = text::decode(text_);
-    const std::size_t start = std::min(selStart_, all.size());
-    const std::size_t selected = std::min(selLength_, all.size() - start);
-    if (maxLength_ != 0) {
-        const std::size_t kept = all.size() - selected;
-        with = with.substr(0, maxLength_ > kept ? maxLength_ - kept : 0);
-    }
-    if (with.empty() && selected == 0) return;
-    all.replace(start, selected, with);
+    const Selection replaced = selection_.within(all.size());
+    if (with.empty() && replaced.length == 0) return;
+    all.replace(replaced.start, replaced.length, with);
     std::string changed = text::encode(all);
-    selStart_ = start + with.size();
-    selLength_ = 0;
+    selection_ = {replaced.start + with.size(), 0, false};
     const bool differs = changed != text_;
     text_ = std::move(changed);
     notify(Property::Text);
@@ -85,68 +131,49 @@ void TextBox::erase(std::size_t start, std::size_t count) {
 void TextBox::personCharacter(char32_t character) {
     if (character == key::Backspace) {
         if (locked_) return;
-        if (selLength_ != 0) {
+        if (selection_.length != 0) {
             replaceSelection(U"");
-        } else if (selStart_ > 0) {
-            // A line break goes as one.
-            const std::u32string all = text::decode(text_);
-            const bool lineBreak =
-                selStart_ > 1 && all[selStart_ - 1] == U'\n' && all[selStart_ - 2] == U'\r';
-            const std::size_t count = lineBreak ? 2 : 1;
-            erase(selStart_ - count, count);
+        } else if (selection_.start > 0) {
+            const std::size_t count = stepBack(text::decode(text_), selection_.start);
+            erase(selection_.start - count, count);
         }
     } else if (character == key::Enter) {
-        if (multiLine_) replaceSelection(U"\r\n");
-    } else if (character >= U' ') {
-        replaceSelection(std::u32string_view(&character, 1));
+        if (multiLine_) enter(lineBreak);
+    } else if (character >= U' ' && character != deleteCharacter) {
+        enter(std::u32string_view(&character, 1));
     }
 }
 
 void TextBox::personPaste(std::string_view text) {
-    std::u32string all = text::decode(text);
-    if (!multiLine_) all = all.substr(0, all.find_first_of(U"\r\n"));
-    replaceSelection(all);
+    const std::u32string all = text::decode(text);
+    enter(multiLine_ ? withWholeBreaks(all) : all.substr(0, all.find_first_of(U"\r\n")));
 }
 
 void TextBox::selectAll() { setSelection(0, text::length(text_)); }
 
-void TextBox::moveCaret(std::size_t to, bool extend) {
-    if (!extend) {
-        setSelection(to, 0);
-        return;
-    }
-    // The end of the selection moves, its start stays.
-    setSelection(std::min(selStart_, to), to > selStart_ ? to - selStart_ : selStart_ - to);
-}
-
 void TextBox::personKeyDown(const KeyStroke& stroke) {
-    const std::size_t length = text::length(text_);
-    const std::size_t end = selStart_ + selLength_;
+    const std::u32string all = text::decode(text_);
+    const std::size_t caret = selection_.caret();
     const bool extend = (stroke.shift & shift::Shift) != 0;
+    const bool collapses = selection_.length != 0 && !extend;
     switch (stroke.code) {
     case key::Home:
-        moveCaret(0, extend);
+        select(selection_.movedTo(0, extend));
         break;
     case key::End:
-        moveCaret(length, extend);
+        select(selection_.movedTo(all.size(), extend));
         break;
     case key::Left:
-        if (selLength_ != 0 && !extend)
-            moveCaret(selStart_, false);
-        else if (end > 0)
-            moveCaret(end - 1, extend);
+        select(selection_.movedTo(collapses ? selection_.start : caret - stepBack(all, caret), extend));
         break;
     case key::Right:
-        if (selLength_ != 0 && !extend)
-            moveCaret(end, false);
-        else if (end < length)
-            moveCaret(end + 1, extend);
+        select(selection_.movedTo(collapses ? selection_.end() : caret + stepOn(all, caret), extend));
         break;
     case key::Delete:
-        if (selLength_ != 0)
+        if (selection_.length != 0)
             replaceSelection(U"");
-        else if (selStart_ < length && !locked_)
-            erase(selStart_, 1);
+        else if (caret < all.size() && !locked_)
+            erase(caret, stepOn(all, caret));
         break;
     default:
         break;
@@ -160,8 +187,8 @@ std::optional<std::string> TextBox::property(std::string_view name) const {
     if (is("MaxLength")) return std::to_string(maxLength_);
     if (is("MultiLine")) return multiLine_ ? "true" : "false";
     if (is("BackColor")) return std::to_string(backColor_);
-    if (is("SelStart")) return std::to_string(selStart_);
-    if (is("SelLength")) return std::to_string(selLength_);
+    if (is("SelStart")) return std::to_string(selection_.start);
+    if (is("SelLength")) return std::to_string(selection_.length);
     return Control::property(name);
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/ui/Colour.h"
 #include "platform/ui/Control.h"
+#include "platform/ui/Selection.h"
 
 #include <cstddef>
 
@@ -24,8 +25,9 @@ public:
     void setMultiLine(bool multiLine) { multiLine_ = multiLine; }
     [[nodiscard]] Colour BackColor() const { return backColor_; }
     void setBackColor(Colour colour);
-    [[nodiscard]] std::size_t SelStart() const { return selStart_; }
-    [[nodiscard]] std::size_t SelLength() const { return selLength_; }
+    [[nodiscard]] std::size_t SelStart() const { return selection_.start; }
+    [[nodiscard]] std::size_t SelLength() const { return selection_.length; }
+    /// Cut to the text.
     void setSelection(std::size_t start, std::size_t length);
 
     /// A person edited the text in the toolkit's own editor: what it holds now, and where the caret
@@ -44,14 +46,14 @@ protected:
     void selectAll() override;
 
 private:
+    void enter(std::u32string_view entry);
     void replaceSelection(std::u32string_view with);
     void erase(std::size_t start, std::size_t count);
-    void moveCaret(std::size_t to, bool extend);
+    void select(const Selection& selection);
 
     std::string text_;
     std::size_t maxLength_ = 0;
-    std::size_t selStart_ = 0;
-    std::size_t selLength_ = 0;
+    Selection selection_;
     Colour backColor_ = colour::window;
     bool locked_ = false;
     bool multiLine_ = false;

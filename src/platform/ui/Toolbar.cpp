@@ -31,7 +31,7 @@ Toolbar::Button& Toolbar::Buttons(std::string_view key) const {
 }
 
 bool Toolbar::clickButton(Button& button) {
-    if (!button.Enabled() || !isShown() || !isUsable()) return false;
+    if (button.isSeparator() || !button.Enabled() || !isShown() || !isUsable()) return false;
     form()->perform([&] { ButtonClick.raise(button); });
     return true;
 }

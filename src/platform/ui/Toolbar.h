@@ -37,7 +37,7 @@ public:
     [[nodiscard]] const std::vector<std::unique_ptr<Button>>& buttons() const { return buttons_; }
     /// By key, compared exactly. Raises ItemNotFound.
     [[nodiscard]] Button& Buttons(std::string_view key) const;
-    /// A person clicks a button; false when it is disabled.
+    /// A person clicks a button; false when it is disabled or a separator.
     bool clickButton(Button& button);
 
     /// "Add.Enabled" and the like.

@@ -44,6 +44,12 @@ void TreeView::setExpanded(Node& node, bool expanded) {
     if (node.expanded == expanded) return;
     node.expanded = expanded;
     notify(Property::Rows);
+    if (expanded) return;
+    // A selection that would no longer show moves up to the node that closed over it.
+    for (const Node* above = selected_ == nullptr ? nullptr : selected_->parent; above != nullptr;
+         above = above->parent) {
+        if (above == &node) return setSelectedItem(&node);
+    }
 }
 
 void TreeView::personKeyDown(const KeyStroke& stroke) {
@@ -57,7 +63,7 @@ void TreeView::personKeyDown(const KeyStroke& stroke) {
     case key::Right:
         if (!selected_->expanded)
             setExpanded(*selected_, !selected_->children.empty());
-        else
+        else if (!selected_->children.empty())
             setSelectedItem(selected_->children.front());
         break;
     case key::Left:

@@ -19,6 +19,7 @@ T* countedFromOne(std::vector<T>& list, int number) {
 
 void VerticalMenu::addGroup(std::string caption, std::size_t itemCount) {
     groups_.push_back({std::move(caption), std::vector<Item>(itemCount)});
+    notify(Property::Items);
 }
 
 void VerticalMenu::setOpenGroup(int group) {
