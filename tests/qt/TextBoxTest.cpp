@@ -221,6 +221,17 @@ TEST(TextBoxTest, LineBreaksOfALongTextAreCarriageReturnAndLineFeed) {
     });
 }
 
+TEST(TextBoxTest, APasteOfLinesIsCutWhereTheModelCutsIt) {
+    inForm([](TextForm& form) { form.memo.setMaxLength(4); },
+           [](TextForm& form, QLineEdit&) {
+               clickOn(*widgetNamed<QPlainTextEdit>("txtMemo").viewport());
+               ASSERT_TRUE(focusComesTo("txtMemo"));
+               QApplication::clipboard()->setText(QStringLiteral("甲\n乙\n丙"));
+               pressKey(Qt::Key_V, Qt::ControlModifier);
+               EXPECT_EQ("甲\r\n乙", form.memo.Text());
+           });
+}
+
 TEST(TextBoxTest, ALongTextOfTheProgramKeepsItsLineBreaks) {
     inForm([](TextForm& form, QLineEdit&) {
         form.memo.setText("甲\r\n乙");

@@ -26,6 +26,4 @@ int unitOf(QStringView text, std::size_t character) {
     return static_cast<int>(unit);
 }
 
-QString firstCharacters(const QString& text, std::size_t count) { return text.left(unitOf(text, count)); }
-
 } // namespace quillmere::qt

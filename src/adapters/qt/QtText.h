@@ -16,7 +16,5 @@ namespace quillmere::qt {
 [[nodiscard]] std::size_t charactersIn(QStringView text);
 /// The unit at which the character with this number starts; the end for a number behind it.
 [[nodiscard]] int unitOf(QStringView text, std::size_t character);
-/// At most this many characters from the front.
-[[nodiscard]] QString firstCharacters(const QString& text, std::size_t count);
 
 } // namespace quillmere::qt

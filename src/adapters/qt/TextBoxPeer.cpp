@@ -12,7 +12,6 @@
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QLineEdit>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <array>

@@ -8,20 +8,10 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QRegularExpression>
 
 #include <utility>
 
 namespace quillmere::qt {
-
-namespace {
-
-/// Up to the first line break, as a box for one line takes it.
-QString firstLine(const QString& text) {
-    return text.left(text.indexOf(QRegularExpression(QStringLiteral("[\\r\\n]"))));
-}
-
-} // namespace
 
 bool TextEntry::isCoded() const { return box().Locked() && box().BackColor() == ui::colour::codedField; }
 
@@ -32,11 +22,10 @@ char32_t TextEntry::admit(char32_t character) {
     return stillHere && left != ui::bellCharacter ? left : 0;
 }
 
-QString TextEntry::cutToRoom(const QString& text) const {
-    const std::size_t most = box().MaxLength();
-    if (most == 0) return text;
-    const std::size_t kept = text::length(toModel(shownText())) - text::length(toModel(selectedText()));
-    return firstCharacters(text, most > kept ? most - kept : 0);
+void TextEntry::enter(const QString& text) {
+    const QString admitted = fromModel(box().roomFor(fromQt(text)));
+    if (!admitted.isEmpty()) insert(admitted);
+    follow();
 }
 
 void TextEntry::enterTyped(const QString& text) {
@@ -47,18 +36,13 @@ void TextEntry::enterTyped(const QString& text) {
             if (left >= U' ') admitted += QString::fromUcs4(&left, 1);
         }
         if (control() == nullptr || admitted.isEmpty() || box().Locked()) return;
-        const QString fitting = cutToRoom(admitted);
-        if (!fitting.isEmpty()) insert(fitting);
-        follow();
+        enter(admitted);
     });
 }
 
 void TextEntry::enterPasted(const QString& text) {
     form().perform([&] {
-        if (control() == nullptr || box().Locked()) return;
-        const QString fitting = cutToRoom(box().MultiLine() ? text : firstLine(text));
-        if (!fitting.isEmpty()) insert(fitting);
-        follow();
+        if (control() != nullptr && !box().Locked()) enter(text);
     });
 }
 

@@ -55,7 +55,7 @@ protected:
 private:
     /// The character as the filters leave it; 0 when nothing is entered.
     [[nodiscard]] char32_t admit(char32_t character);
-    [[nodiscard]] QString cutToRoom(const QString& text) const;
+    void enter(const QString& text);
     void enterBackspace();
 
     bool mirroring_ = false;

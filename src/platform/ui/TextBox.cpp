@@ -102,10 +102,21 @@ void TextBox::personEdited(std::string text, std::size_t selStart) {
     Change.raise();
 }
 
+std::u32string TextBox::cutToRoom(std::u32string_view entry) const {
+    const std::u32string whole =
+        multiLine_ ? withWholeBreaks(entry) : std::u32string(entry.substr(0, entry.find_first_of(lineBreak)));
+    if (maxLength_ == 0) return whole;
+    return std::u32string(fitting(whole, text::length(text_) - selection_.length, maxLength_));
+}
+
+std::string TextBox::roomFor(std::string_view entry) const {
+    return text::encode(cutToRoom(text::decode(entry)));
+}
+
 void TextBox::enter(std::u32string_view entry) {
-    if (maxLength_ != 0) entry = fitting(entry, text::length(text_) - selection_.length, maxLength_);
+    const std::u32string admitted = cutToRoom(entry);
     // An entry that has no room does not take away what is selected either.
-    if (!entry.empty()) replaceSelection(entry);
+    if (!admitted.empty()) replaceSelection(admitted);
 }
 
 void TextBox::replaceSelection(std::u32string_view with) {
@@ -144,10 +155,7 @@ void TextBox::personCharacter(char32_t character) {
     }
 }
 
-void TextBox::personPaste(std::string_view text) {
-    const std::u32string all = text::decode(text);
-    enter(multiLine_ ? withWholeBreaks(all) : all.substr(0, all.find_first_of(U"\r\n")));
-}
+void TextBox::personPaste(std::string_view text) { enter(text::decode(text)); }
 
 void TextBox::selectAll() { setSelection(0, text::length(text_)); }
 

@@ -30,6 +30,10 @@ public:
     /// Cut to the text.
     void setSelection(std::size_t start, std::size_t length);
 
+    /// What of an entry could take the place of the selection now: its first line where the box has one
+    /// line, its line breaks as "\r\n" where it has many, cut to MaxLength.
+    [[nodiscard]] std::string roomFor(std::string_view entry) const;
+
     /// A person edited the text in the toolkit's own editor: what it holds now, and where the caret
     /// is. A locked box, or a text longer than MaxLength allows, keeps its text; the view is told.
     void personEdited(std::string text, std::size_t selStart);
@@ -46,6 +50,7 @@ protected:
     void selectAll() override;
 
 private:
+    [[nodiscard]] std::u32string cutToRoom(std::u32string_view entry) const;
     void enter(std::u32string_view entry);
     void replaceSelection(std::u32string_view with);
     void erase(std::size_t start, std::size_t count);
