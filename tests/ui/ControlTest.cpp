@@ -139,6 +139,15 @@ TEST(ControlTest, ABandOfACoolBarHoldsItsChild) {
     EXPECT_EQ(bar.bands()[0].minHeight, 600);
 }
 
+TEST(ControlTest, WhatStoodInARemovedFrameStandsOnTheForm) {
+    Form form("frm", "frm");
+    auto& frame = form.add<Frame>("frame");
+    auto& box = form.add<TextBox>("box");
+    box.setContainer(&frame);
+    form.remove(0);
+    EXPECT_EQ(box.Container(), nullptr);
+}
+
 TEST(ControlTest, ASkinIsInvisibleAndAppliedWhenTold) {
     Skin skin("skin");
     EXPECT_FALSE(skin.Visible());

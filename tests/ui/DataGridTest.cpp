@@ -71,6 +71,12 @@ TEST_F(DataGridTest, ANullShowsNothing) {
     EXPECT_EQ(grid.cellText(1, 1), "");
 }
 
+TEST_F(DataGridTest, ACellThatIsNotThereIsAFailure) {
+    grid.setDataSource(source);
+    EXPECT_EQ(failureOf([&] { (void)grid.cellText(3, 0); }), number(Failure::SubscriptOutOfRange));
+    EXPECT_EQ(failureOf([&] { (void)grid.cellText(0, 2); }), number(Failure::ItemNotFound));
+}
+
 TEST_F(DataGridTest, ARowsetWithoutRowsShowsItsColumns) {
     grid.setDataSource(recordset(0));
     EXPECT_EQ(grid.columns().size(), 2U);

@@ -23,6 +23,9 @@ void ControlHost::remove(std::size_t index) {
     Control& leaving = *control;
     Form* form = topForm();
     leaving.removed_ = true;
+    for (const auto& other : controls_) {
+        if (other->container_ == &leaving) other->container_ = nullptr;
+    }
     if (form != nullptr) form->dropFocusFromUnusable();
     if (hostView_ != nullptr) hostView_->removed(leaving);
     // An event of this very control may be running, so its object outlives the removal.

@@ -48,6 +48,7 @@ std::size_t DataGrid::rowCount() const { return hasRows() ? source_->visibleRows
 
 std::string DataGrid::cellText(std::size_t row, std::size_t column) const {
     if (!hasRows()) return {};
+    if (row >= rowCount()) throw Error(Failure::SubscriptOutOfRange);
     return source_->rows().at(source_->visibleRows().at(row), column).toTextOrEmpty();
 }
 
