@@ -60,6 +60,19 @@ TEST_F(TextBoxWalkTest, ACodedVarcharWithoutACodeIsStoredAsTheEmptyText) {
     expectStored(",A0102", ",''");
 }
 
+TEST_F(TextBoxWalkTest, TheTypeOfAFieldCountsInWhateverCaseTheCatalogueHasIt) {
+    for (const char* type : {"VARCHAR", "Varchar"}) {
+        SCOPED_TRACE(type);
+        buildText(type);
+        write("A0102", characters(256));
+        expectRefusal("栏A0102 数据应该小于256个字符长度");
+        db.run("drop table A01");
+    }
+    buildText("INT");
+    write("A0102", "x");
+    expectRefusal("栏A0102 数据应该输入数字");
+}
+
 TEST_F(TextBoxWalkTest, AnIntIsStoredAsItStands) {
     buildText("int");
     write("A0102", "0042");

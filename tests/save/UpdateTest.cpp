@@ -38,6 +38,15 @@ TEST_F(AssignmentTest, ACodedVarcharWritesItsLoadedCodeBack) {
     expectAssigned("P0150 = '01'");
 }
 
+TEST_F(AssignmentTest, ACodeThatIsNoLongerInItsTableIsWrittenBackUnchanged) {
+    buildText("varchar");
+    item("P0150").CodeTable = "ZW";
+    item("P0150").Dmcod = "99";
+    // Without a caption the box shows the code itself.
+    write("P0150", "99");
+    expectAssigned("P0150 = '99'");
+}
+
 TEST_F(AssignmentTest, AnIntIsAssignedAsItStands) {
     buildText("int");
     write("P0150", "12.5");
