@@ -103,7 +103,7 @@ void TextBox::personEdited(std::string text, std::size_t selStart) {
 }
 
 std::u32string TextBox::cutToRoom(std::u32string_view entry) const {
-    const std::u32string whole =
+    std::u32string whole =
         multiLine_ ? withWholeBreaks(entry) : std::u32string(entry.substr(0, entry.find_first_of(lineBreak)));
     if (maxLength_ == 0) return whole;
     return std::u32string(fitting(whole, text::length(text_) - selection_.length, maxLength_));
