@@ -83,6 +83,7 @@ void A1ctrlUser::setCtrl(const std::shared_ptr<cFieldItems>& items) {
     }
     WhInfo.IsChange = false;
     isLoading_ = false;
+    onFilled();
 }
 
 void A1ctrlUser::setDGItems() {
@@ -186,12 +187,6 @@ void A1ctrlUser::movePrevious() {
 void A1ctrlUser::moveNext() {
     if (!adodcRs_ || adodcRs_->RecordCount() < 2) return;
     if (!adodcRs_->EOF_() && adodcRs_->AbsolutePosition() < adodcRs_->RecordCount()) adodcRs_->MoveNext();
-}
-
-std::unique_ptr<A1ctrlUser> createPanel(std::string_view name, PanelWindow& window) {
-    const PanelRow* row = findPanel(name);
-    if (row == nullptr) throw Error(Failure::CannotCreateObject);
-    return std::make_unique<A1ctrlUser>(*row, std::string(name), window);
 }
 
 } // namespace quillmere

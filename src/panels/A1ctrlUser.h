@@ -49,6 +49,9 @@ public:
 
 protected:
     void terminate() override;
+    /// The widgets have been filled from a field set; what a panel shows beside its fields follows.
+    virtual void onFilled() {}
+    [[nodiscard]] PanelWindow& window() const { return window_; }
 
 private:
     // FieldContext
@@ -78,9 +81,5 @@ private:
     ui::Label* labExplain_ = nullptr;
     ui::DataGrid* grid_ = nullptr;
 };
-
-/// Creates a panel by its class name, "A1ctrlUser" and the set's name, without regard to case.
-/// Raises CannotCreateObject for a name that no panel has.
-[[nodiscard]] std::unique_ptr<A1ctrlUser> createPanel(std::string_view name, PanelWindow& window);
 
 } // namespace quillmere

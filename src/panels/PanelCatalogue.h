@@ -28,8 +28,9 @@ struct FieldRow {
     KeyFilter filter = KeyFilter::None;
     /// Designed limit in characters; the field's catalogue length takes over with the first record.
     std::size_t maxLength = 0;
-    /// Fixed label behind the widget.
+    /// Caption of the fixed label behind the widget, and that label's name where it has one of its own.
     std::string_view unit;
+    std::string_view unitLabel;
 
     /// A copy with one member set.
     template <class T>
@@ -45,29 +46,29 @@ struct FieldRow {
     [[nodiscard]] constexpr FieldRow digits() const { return with(&FieldRow::filter, KeyFilter::Digits); }
     [[nodiscard]] constexpr FieldRow phone() const { return with(&FieldRow::filter, KeyFilter::Phone); }
     [[nodiscard]] constexpr FieldRow decimal() const { return with(&FieldRow::filter, KeyFilter::Decimal); }
-    [[nodiscard]] constexpr FieldRow in(std::string_view unitName) const {
-        return with(&FieldRow::unit, unitName);
+    [[nodiscard]] constexpr FieldRow in(std::string_view unitName, std::string_view labelName = {}) const {
+        return with(&FieldRow::unit, unitName).with(&FieldRow::unitLabel, labelName);
     }
 };
 
 namespace field {
 [[nodiscard]] constexpr FieldRow text(std::string_view code, std::string_view caption) {
-    return {code, caption, ValueWidget::Text, KeyFilter::None, 0, {}};
+    return {code, caption, ValueWidget::Text, KeyFilter::None, 0, {}, {}};
 }
 [[nodiscard]] constexpr FieldRow longText(std::string_view code, std::string_view caption) {
-    return {code, caption, ValueWidget::LongText, KeyFilter::None, 0, {}};
+    return {code, caption, ValueWidget::LongText, KeyFilter::None, 0, {}, {}};
 }
 [[nodiscard]] constexpr FieldRow month(std::string_view code, std::string_view caption) {
-    return {code, caption, ValueWidget::Month, KeyFilter::None, 0, {}};
+    return {code, caption, ValueWidget::Month, KeyFilter::None, 0, {}, {}};
 }
 [[nodiscard]] constexpr FieldRow day(std::string_view code, std::string_view caption) {
-    return {code, caption, ValueWidget::Day, KeyFilter::None, 0, {}};
+    return {code, caption, ValueWidget::Day, KeyFilter::None, 0, {}, {}};
 }
 [[nodiscard]] constexpr FieldRow number(std::string_view code, std::string_view caption) {
-    return {code, caption, ValueWidget::Number, KeyFilter::None, 0, {}};
+    return {code, caption, ValueWidget::Number, KeyFilter::None, 0, {}, {}};
 }
 [[nodiscard]] constexpr FieldRow check(std::string_view code, std::string_view caption) {
-    return {code, caption, ValueWidget::Check, KeyFilter::None, 0, {}};
+    return {code, caption, ValueWidget::Check, KeyFilter::None, 0, {}, {}};
 }
 } // namespace field
 

@@ -56,7 +56,9 @@ void buildField(ui::UserControl& panel, const PanelRow& row, const FieldRow& fie
     const std::string stem = std::string(row.widgetTable) + "_" + std::string(field.code);
     panel.add<ui::Label>(stem + "_c", std::string(field.caption));
     buildValueWidget(panel, field, stem + "_v");
-    if (!field.unit.empty()) panel.add<ui::Label>(stem + "_u", std::string(field.unit));
+    if (field.unit.empty()) return;
+    panel.add<ui::Label>(field.unitLabel.empty() ? stem + "_u" : std::string(field.unitLabel),
+                         std::string(field.unit));
 }
 
 void buildPhoto(ui::UserControl& panel) {

@@ -4,6 +4,7 @@
 #include "metadata/FieldLoaders.h"
 #include "metadata/Globals.h"
 #include "metadata/Identity.h"
+#include "panels/PanelFactory.h"
 #include "platform/Error.h"
 #include "platform/data/Connection.h"
 #include "platform/text/Text.h"

@@ -1,4 +1,5 @@
 #include "panels/PanelBench.h"
+#include "panels/PanelFactory.h"
 #include "support/FailureNumber.h"
 
 #include "platform/ui/Frame.h"

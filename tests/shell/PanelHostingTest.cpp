@@ -1,4 +1,4 @@
-#include "panels/A1ctrlUser.h"
+#include "panels/PanelFactory.h"
 #include "shell/ControlsByPrefix.h"
 #include "shell/frmPersonWh.h"
 #include "support/FailureNumber.h"

@@ -11,7 +11,7 @@ constexpr FieldRow fieldsP01[] = {
     month("P0106", "项目起始年月"),
     month("P0107", "项目截止年月"),
     text("P0112", "申请项目分组"),
-    text("P0103", "总费用").decimal().in("万元"),
+    text("P0103", "总费用").decimal().in("万元", "Label2"),
 };
 
 constexpr FieldRow fieldsP02[] = {
@@ -27,9 +27,9 @@ constexpr FieldRow fieldsP02_DG[] = {
 };
 
 constexpr FieldRow fieldsP03[] = {
-    text("P0102", "申请资助金额").decimal().in("万元"),
+    text("P0102", "申请资助金额").decimal().in("万元", "Label2"),
     text("P0104", "项目资金缺口解决办法"),
-    text("P0103", "总费用").in("万元"),
+    text("P0103", "总费用").in("万元", "Label3"),
 };
 
 constexpr FieldRow fieldsP04[] = {
