@@ -71,31 +71,12 @@ void MaskEdBox::selectAll() { setSelection(0, text::length(text_)); }
 void MaskEdBox::personKeyDown(const KeyStroke& stroke) {
     const std::size_t length = text::length(text_);
     const std::size_t caret = selection_.caret();
-    const bool extend = (stroke.shift & shift::Shift) != 0;
-    const bool collapses = selection_.length != 0 && !extend;
-    switch (stroke.code) {
-    case key::Home:
-        select(selection_.movedTo(0, extend));
-        break;
-    case key::End:
-        select(selection_.movedTo(length, extend));
-        break;
-    case key::Left:
-        if (collapses || caret > 0)
-            select(selection_.movedTo(collapses ? selection_.start : caret - 1, extend));
-        break;
-    case key::Right:
-        if (collapses || caret < length)
-            select(selection_.movedTo(collapses ? selection_.end() : caret + 1, extend));
-        break;
-    case key::Delete: {
+    if (const auto moved = selection_.afterKey(stroke, caret > 0 ? 1 : 0, caret < length ? 1 : 0, length)) {
+        select(*moved);
+    } else if (stroke.code == key::Delete) {
         Mask::State edited = state();
         mask_.erase(edited);
         apply(edited);
-        break;
-    }
-    default:
-        break;
     }
 }
 

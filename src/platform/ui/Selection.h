@@ -1,7 +1,10 @@
 #pragma once
 
+#include "platform/ui/Keys.h"
+
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 
 namespace quillmere::ui {
 
@@ -22,6 +25,27 @@ struct Selection {
         if (!extend) return {to, 0, false};
         const std::size_t fixed = caretFirst ? end() : start;
         return {std::min(fixed, to), std::max(fixed, to) - std::min(fixed, to), to < fixed};
+    }
+
+    /// Where Home, End, Left and Right take the caret in a text of that many characters, of which a
+    /// step passes `back` or `on`; none for any other key. A selection that is not extended collapses
+    /// to its side.
+    [[nodiscard]] std::optional<Selection> afterKey(const KeyStroke& stroke, std::size_t back, std::size_t on,
+                                                    std::size_t size) const {
+        const bool extend = (stroke.shift & shift::Shift) != 0;
+        const bool collapses = length != 0 && !extend;
+        switch (stroke.code) {
+        case key::Home:
+            return movedTo(0, extend);
+        case key::End:
+            return movedTo(size, extend);
+        case key::Left:
+            return movedTo(collapses ? start : caret() - back, extend);
+        case key::Right:
+            return movedTo(collapses ? end() : caret() + on, extend);
+        default:
+            return std::nullopt;
+        }
     }
 
     /// Cut to a text of that many characters.

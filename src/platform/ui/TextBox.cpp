@@ -162,29 +162,14 @@ void TextBox::selectAll() { setSelection(0, text::length(text_)); }
 void TextBox::personKeyDown(const KeyStroke& stroke) {
     const std::u32string all = text::decode(text_);
     const std::size_t caret = selection_.caret();
-    const bool extend = (stroke.shift & shift::Shift) != 0;
-    const bool collapses = selection_.length != 0 && !extend;
-    switch (stroke.code) {
-    case key::Home:
-        select(selection_.movedTo(0, extend));
-        break;
-    case key::End:
-        select(selection_.movedTo(all.size(), extend));
-        break;
-    case key::Left:
-        select(selection_.movedTo(collapses ? selection_.start : caret - stepBack(all, caret), extend));
-        break;
-    case key::Right:
-        select(selection_.movedTo(collapses ? selection_.end() : caret + stepOn(all, caret), extend));
-        break;
-    case key::Delete:
+    const std::size_t on = stepOn(all, caret);
+    if (const auto moved = selection_.afterKey(stroke, stepBack(all, caret), on, all.size())) {
+        select(*moved);
+    } else if (stroke.code == key::Delete) {
         if (selection_.length != 0)
             replaceSelection(U"");
         else if (caret < all.size() && !locked_)
-            erase(caret, stepOn(all, caret));
-        break;
-    default:
-        break;
+            erase(caret, on);
     }
 }
 
