@@ -225,5 +225,12 @@ TEST_F(DataGridTest, TheSourceMayOutliveTheGrid) {
     EXPECT_EQ(source->AbsolutePosition(), 2);
 }
 
+TEST_F(DataGridTest, OutsideAFormItIsNotClicked) {
+    DataGrid alone("DGItems");
+    alone.setDataSource(source);
+    EXPECT_FALSE(alone.clickRow(2));
+    EXPECT_EQ(source->AbsolutePosition(), 1);
+}
+
 } // namespace
 } // namespace quillmere::ui

@@ -72,5 +72,10 @@ TEST_F(ToolbarTest, ItsButtonsArePropertiesByKey) {
     EXPECT_EQ(bar.property("Print.Enabled"), std::nullopt);
 }
 
+TEST(ToolbarAloneTest, OutsideAFormItIsNotClicked) {
+    Toolbar bar("TbMain");
+    EXPECT_FALSE(bar.clickButton(bar.addButton("Add", "增加")));
+}
+
 } // namespace
 } // namespace quillmere::ui

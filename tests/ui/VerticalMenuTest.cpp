@@ -104,5 +104,11 @@ TEST_F(VerticalMenuTest, OpeningAGroupClicksNothing) {
     EXPECT_EQ(clicked, "");
 }
 
+TEST(VerticalMenuAloneTest, OutsideAFormItIsNotClicked) {
+    VerticalMenu menu("VMenu1");
+    menu.addGroup("基本信息", 1);
+    EXPECT_FALSE(menu.clickItem(1, 1));
+}
+
 } // namespace
 } // namespace quillmere::ui

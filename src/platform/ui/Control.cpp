@@ -64,7 +64,7 @@ bool Control::isRemoved() const {
 }
 
 bool Control::isShown() const {
-    if (!visible_ || removed_) return false;
+    if (!visible_ || removed_ || host_ == nullptr) return false;
     if (container_ != nullptr) {
         const auto* tabs = dynamic_cast<const TabStrip*>(container_);
         if (tabs != nullptr && tabs->Tab() != page_) return false;

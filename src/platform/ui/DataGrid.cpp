@@ -59,7 +59,7 @@ void DataGrid::goTo(int row) {
 }
 
 bool DataGrid::clickRow(int row) {
-    if (row < 1 || row > static_cast<int>(rowCount())) return false;
+    if (form() == nullptr || row < 1 || row > static_cast<int>(rowCount())) return false;
     bool reached = false;
     form()->perform([&] {
         if (!canTakeFocus() || !form()->requestFocus(*this)) return;
