@@ -38,9 +38,21 @@ void ModelHand::clickPage(ui::Form& form, ui::TabStrip& tabs, int page) {
     });
 }
 
+namespace {
+
+/// What a person has to do before a node can be clicked: to open what it stands in.
+void open(ui::TreeView& tree, ui::TreeView::Node* node) {
+    if (node == nullptr) return;
+    open(tree, node->parent);
+    tree.setExpanded(*node, true);
+}
+
+} // namespace
+
 void ModelHand::clickNode(ui::Form& form, ui::TreeView& tree, ui::TreeView::Node& node, bool twice) {
     form.perform([&] {
         if (!form.requestFocus(tree)) return;
+        open(tree, node.parent);
         tree.setSelectedItem(&node);
         twice ? form.doubleClick(tree) : form.click(tree);
     });

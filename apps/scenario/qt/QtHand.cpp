@@ -175,6 +175,17 @@ void open(QTreeView& view, const ui::TreeView& tree, const ui::TreeView::Node* n
     clickAt(*view.viewport(), {row.left() - view.indentation() / 2, row.center().y()});
 }
 
+/// A click that is not told what to hit must not choose a row: it reaches the list as a whole.
+bool holdsRows(const ui::Control& control) {
+    const ui::Kind kind = control.kind();
+    return kind == ui::Kind::DataGrid || kind == ui::Kind::ListBox || kind == ui::Kind::TreeView;
+}
+
+/// A rule and a frame are drawn by the layout, without a widget that a click could reach.
+bool isBackground(const ui::Control& control) {
+    return control.kind() == ui::Kind::Line || control.kind() == ui::Kind::Frame;
+}
+
 } // namespace
 
 void QtHand::focus(ui::Form& form, ui::Control& control) {
@@ -211,11 +222,18 @@ void QtHand::press(ui::Form& form, const ui::KeyStroke& stroke) {
 }
 
 void QtHand::click(ui::Form& form, ui::Control& control) {
+    if (isBackground(control)) return;
+    if (holdsRows(control)) return focus(form, control);
     QWidget& widget = widgetOf<QWidget>(form, control);
     clickAt(widget, pointOn(widget));
 }
 
 void QtHand::doubleClick(ui::Form& form, ui::Control& control) {
+    if (isBackground(control)) return;
+    if (auto* tree = dynamic_cast<ui::TreeView*>(&control);
+        tree != nullptr && tree->SelectedItem() != nullptr)
+        return clickNode(form, *tree, *tree->SelectedItem(), true);
+    if (holdsRows(control)) return focus(form, control);
     QWidget& widget = widgetOf<QWidget>(form, control);
     doubleClickAt(widget, pointOn(widget), form, control);
 }
