@@ -1,10 +1,5 @@
-#include "metadata/CheckInput.h"
-
-#include "metadata/cFieldItem.h"
-#include "platform/convert/Clock.h"
+#include "metadata/CheckInputTable.h"
 #include "support/FailureNumber.h"
-
-#include <gtest/gtest.h>
 
 #include <ostream>
 #include <string>
@@ -12,34 +7,13 @@
 namespace quillmere {
 namespace {
 
-struct Row {
-    const char* name;
-    const char* rule;
-    std::string text;
-    /// Empty when the text passes.
-    const char* complaint;
-    const char* fieldType = "varchar";
-    const char* fieldLength = "50";
-    const char* style = "";
-};
+using test::fill;
+using test::nameOfRow;
+using Row = test::CheckRow;
 
-void PrintTo(const Row& row, std::ostream* out) { *out << row.rule << " on [" << row.text << "]"; }
+class CheckInputRules : public test::CheckInputTable {};
 
-class CheckInputTable : public testing::TestWithParam<Row> {
-protected:
-    void SetUp() override { clock::fix(convert::DateTime{2026, 11, 21, 9, 30, 0}); }
-    void TearDown() override { clock::fix(std::nullopt); }
-};
-
-void fill(cFieldItem& item, const Row& row) {
-    item.ItemDesc = "栏目";
-    item.Check = row.rule;
-    item.FieldType = row.fieldType;
-    item.FieldLength = row.fieldLength;
-    item.Style = row.style;
-}
-
-TEST_P(CheckInputTable, AnswersWithTheComplaint) {
+TEST_P(CheckInputRules, AnswersWithTheComplaint) {
     cFieldItem item;
     fill(item, GetParam());
     EXPECT_EQ(CheckInput(item, GetParam().text), GetParam().complaint);
@@ -92,6 +66,13 @@ const Row numbers[] = {
     {"NoDecimals", "N 3,0", "1000", "栏目数据长度应小于3！"},
     {"NoWholeDigitsAllowed", "N 2,2", "1", "栏目整数位数最多为0位！"},
     {"MoreDecimalsThanTotal", "N 2,3", ".5", "栏目整数位数最多为-1位！"},
+    {"PointLast", "N 4,2", "5.", ""},
+    {"PointAlone", "N 4,2", ".", "栏目应该为数字！"},
+    {"SignAlone", "N 4,2", "-", "栏目应该为数字！"},
+    {"Exponent", "N 4,0", "1e5", ""},
+    {"ThousandsCountInTheLength", "N 4,0", "1,000", "栏目数据长度应小于4！"},
+    {"ThousandsCountInTheWholePart", "N 6,2", "1,000", "栏目整数位数最多为4位！"},
+    {"ChineseNumeral", "N 4,0", "五", "栏目应该为数字！"},
 };
 
 const Row atMost[] = {
@@ -115,63 +96,59 @@ const Row lengths[] = {
     {"StopsAtTheFirstThatFits", "L 3,x", "abc", ""},
 };
 
-const Row dates[] = {
-    {"UpperIsFiveYearsOn", "B 1900-01,2100-01", "2031-12", "栏目应该在1900-01至2031-11之间。", "datetime",
-     "8", "yyyy-MM"},
-    {"UpperItself", "B 1900-01,2100-01", "2031-11", "", "datetime", "8", "yyyy-MM"},
-    {"LowerItself", "B 1900-01,2100-01", "1900-01", "", "datetime", "8", "yyyy-MM"},
-    {"BelowLower", "B 1900-01,2100-01", "1899-12", "栏目应该在1900-01至2031-11之间。", "datetime", "8",
-     "yyyy-MM"},
-    {"StoredUpperDoesNotAge", "B 1900-01,2009-01", "2020-05", "", "datetime", "8", "yyyy-MM"},
-    {"WithDays", "B 1900-01-01,2100-01-01", "2031-11-22", "栏目应该在1900-01-01至2031-11-21之间。",
-     "datetime", "8", "yyyy-MM-dd"},
-    {"WithDaysUpperItself", "B 1900-01-01,2100-01-01", "2031-11-21", "", "datetime", "8", "yyyy-MM-dd"},
-    {"TextIsFormattedByTheStyle", "B 1900-01-01,2100-01-01", "2020年3月5日", "", "datetime", "8",
-     "yyyy-MM-dd"},
-    // "2031.12" holds a point, which stands above the hyphen of the replaced bound.
-    {"PointAgainstHyphen", "B 1900.01,2100.01", "2031.01", "栏目应该在1900.01至2031-11之间。", "datetime",
-     "8", "yyyy.MM"},
-    {"PointInAnEarlierYear", "B 1900.01,2100.01", "2030.12", "", "datetime", "8", "yyyy.MM"},
-    {"PointsWithDays", "B 1900.01.01,2100.01.01", "2031.01.01", "栏目应该在1900.01.01至2031-11-21之间。",
-     "datetime", "8", "yyyy.MM.dd"},
-    {"OtherStyleKeepsTheUpper", "B 1900,2100", "2099", "", "datetime", "8", "yyyy"},
-    {"OtherStyleAboveTheUpper", "B 1900,2100", "2101", "栏目应该在1900至2100之间。", "datetime", "8", ""},
-    {"StyleIsCompareToTheLetter", "B 1900-01,2100-01", "2050-01", "", "datetime", "8", "YYYY-MM"},
-    {"NoDateIsComparedAsText", "B 1900-01-01,2100-01-01", "later", "栏目应该在1900-01-01至2031-11-21之间。",
-     "datetime", "8", "yyyy-MM-dd"},
-    {"NoDateThatHappensToLieBetween", "B 1900-01-01,2100-01-01", "2020-99-99", "", "datetime", "8",
-     "yyyy-MM-dd"},
-    {"EmptyFails", "B 1900-01,2100-01", "", "栏目应该在1900-01至2031-11之间。", "datetime", "8", "yyyy-MM"},
-    {"OneBoundIsNoTest", "B 1900-01", "0000", "", "datetime", "8", "yyyy-MM"},
-    {"ThreeBoundsAreNoTest", "B 1900-01,2000-01,2100-01", "0000", "", "datetime", "8", "yyyy-MM"},
-    {"TypeInCapitals", "B 1900-01,2100-01", "1800-01", "栏目应该在1900-01至2031-11之间。", "DateTime", "8",
-     "yyyy-MM"},
+INSTANTIATE_TEST_SUITE_P(Quotes, CheckInputRules, testing::ValuesIn(quotes), nameOfRow);
+INSTANTIATE_TEST_SUITE_P(Malformed, CheckInputRules, testing::ValuesIn(malformed), nameOfRow);
+INSTANTIATE_TEST_SUITE_P(Numbers, CheckInputRules, testing::ValuesIn(numbers), nameOfRow);
+INSTANTIATE_TEST_SUITE_P(AtMost, CheckInputRules, testing::ValuesIn(atMost), nameOfRow);
+INSTANTIATE_TEST_SUITE_P(Lengths, CheckInputRules, testing::ValuesIn(lengths), nameOfRow);
+
+/// A rule other than bounds, which no type, length or style of a field changes.
+struct PlainRow {
+    const char* name;
+    const char* rule;
+    const char* text;
+    const char* complaint;
 };
 
-const Row texts[] = {
-    {"YearUpperIsFiveYearsOn", "B 1900,2100", "2032", "栏目应该在1900至2031之间。", "varchar", "4"},
-    {"YearUpperItself", "B 1900,2100", "2031", "", "varchar", "4"},
-    {"YearLowerItself", "B 1900,2100", "1900", "", "varchar", "4"},
-    {"YearBelowLower", "B 1900,2100", "1899", "栏目应该在1900至2031之间。", "varchar", "4"},
-    {"LengthFourWrittenOtherwise", "B 1900,2100", "2050", "栏目应该在1900至2031之间。", "varchar", "4.0"},
-    {"OtherLengthKeepsTheUpper", "B 1900,2100", "2050", "", "varchar", "10"},
-    {"TypeInCapitals", "B 1900,2100", "2032", "栏目应该在1900至2031之间。", "VARCHAR", "4"},
-    {"ComparedAsTextNotAsNumber", "B 5,60", "10", "栏目应该在5至60之间。", "varchar", "10"},
-    {"EmptyFails", "B 1,9", "", "栏目应该在1至9之间。", "varchar", "10"},
-    {"FurtherBoundsAreIgnored", "B 1,5,9", "6", "栏目应该在1至5之间。", "varchar", "10"},
-    {"OtherTypeIsNoTest", "B 1,5", "9", "", "int", "10"},
-    {"OtherTypeNeedsNoBounds", "B ", "9", "", "ntext", "x"},
+void PrintTo(const PlainRow& row, std::ostream* out) { *out << row.rule << " on [" << row.text << "]"; }
+
+class CheckInputOfAnyField : public testing::TestWithParam<PlainRow> {};
+
+TEST_P(CheckInputOfAnyField, AnswersAlikeWhateverTheTypeLengthAndStyle) {
+    for (const char* type :
+         {"varchar", "Varchar", "int", "INT", "datetime", "DateTime", "ntext", "Ntext", "bit", "money", ""}) {
+        for (const char* style : {"", "yyyy", "yyyy.MM", "yyyy-MM", "yyyy.MM.dd", "yyyy-MM-dd"}) {
+            for (const char* length : {"4", "50", "", "four"}) {
+                cFieldItem item;
+                fill(item, {"", GetParam().rule, "", "", type, length, style});
+                EXPECT_EQ(CheckInput(item, GetParam().text), GetParam().complaint)
+                    << type << " " << style << " " << length;
+            }
+        }
+    }
+}
+
+const PlainRow plainRows[] = {
+    {"NoRule", "", "anything", ""},
+    {"Quote", "", "'", quoteComplaint},
+    {"QuoteBeforeARule", "A 9", "a'b", quoteComplaint},
+    {"LetterAlone", "B", "anything", ""},
+    {"UnknownLetter", "C 1,2", "anything", ""},
+    {"Number", "N 4,1", "12.5", ""},
+    {"NumberEmpty", "N 4,1", "", ""},
+    {"NumberIll", "N 4,1", "2020-01", "栏目应该为数字！"},
+    {"NumberTooLong", "N 4,1", "12345", "栏目数据长度应小于4！"},
+    {"NumberWithTooManyWholeDigits", "N 4,1", "1234", "栏目整数位数最多为3位！"},
+    {"AtMost", "A 4", "2020", ""},
+    {"AtMostEmpty", "A 4", "", ""},
+    {"AtMostTooLong", "A 4", "2020年", "栏目最多可以录入4个字符！"},
+    {"Length", "L 4,7", "2020-01", ""},
+    {"LengthEmpty", "L 4,7", "", "栏目长度应该为4或7位。"},
+    {"LengthOther", "L 4,7", "20201", "栏目长度应该为4或7位。"},
 };
 
-std::string nameOfRow(const testing::TestParamInfo<Row>& info) { return info.param.name; }
-
-INSTANTIATE_TEST_SUITE_P(Quotes, CheckInputTable, testing::ValuesIn(quotes), nameOfRow);
-INSTANTIATE_TEST_SUITE_P(Malformed, CheckInputTable, testing::ValuesIn(malformed), nameOfRow);
-INSTANTIATE_TEST_SUITE_P(Numbers, CheckInputTable, testing::ValuesIn(numbers), nameOfRow);
-INSTANTIATE_TEST_SUITE_P(AtMost, CheckInputTable, testing::ValuesIn(atMost), nameOfRow);
-INSTANTIATE_TEST_SUITE_P(Lengths, CheckInputTable, testing::ValuesIn(lengths), nameOfRow);
-INSTANTIATE_TEST_SUITE_P(Dates, CheckInputTable, testing::ValuesIn(dates), nameOfRow);
-INSTANTIATE_TEST_SUITE_P(Texts, CheckInputTable, testing::ValuesIn(texts), nameOfRow);
+INSTANTIATE_TEST_SUITE_P(Rules, CheckInputOfAnyField, testing::ValuesIn(plainRows),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 struct FailingRow {
     const char* name;
@@ -203,6 +180,7 @@ const FailingRow failingRows[] = {
     {"AtMostIsNoNumber", "A x", "a", Failure::TypeMismatch},
     {"AtMostWithoutArgument", "A ", "a", Failure::SubscriptOutOfRange},
     {"AtMostBeyondAnyLength", "A 99999999999", "a", Failure::Overflow},
+    {"LengthListEndsInAComma", "L 3,", "ab", Failure::TypeMismatch},
     {"LengthIsNoNumber", "L x,3", "abc", Failure::TypeMismatch},
     {"BoundsWithOneBound", "B 1900", "2000", Failure::SubscriptOutOfRange},
     {"BoundsWithOneBoundOnAYear", "B 1900", "2000", Failure::SubscriptOutOfRange, "4"},
@@ -214,30 +192,6 @@ const FailingRow failingRows[] = {
 
 INSTANTIATE_TEST_SUITE_P(MalformedRules, CheckInputFailures, testing::ValuesIn(failingRows),
                          [](const auto& row) { return std::string(row.param.name); });
-
-TEST(CheckInputClock, TheUpperBoundIsWorkedOutOnEachCall) {
-    cFieldItem item;
-    item.Check = "B 1900,2100";
-    item.FieldType = "varchar";
-    item.FieldLength = "4";
-    clock::fix(convert::DateTime{2026, 1, 1});
-    EXPECT_NE(CheckInput(item, "2032"), "");
-    clock::fix(convert::DateTime{2027, 1, 1});
-    EXPECT_EQ(CheckInput(item, "2032"), "");
-    clock::fix(std::nullopt);
-}
-
-TEST(CheckInputClock, FiveYearsFromALeapDayIsTheLastOfFebruary) {
-    cFieldItem item;
-    item.ItemDesc = "日期";
-    item.Check = "B 1900-01-01,2100-01-01";
-    item.FieldType = "datetime";
-    item.Style = "yyyy-MM-dd";
-    clock::fix(convert::DateTime{2024, 2, 29});
-    EXPECT_EQ(CheckInput(item, "2029-03-01"), "日期应该在1900-01-01至2029-02-28之间。");
-    EXPECT_EQ(CheckInput(item, "2029-02-28"), "");
-    clock::fix(std::nullopt);
-}
 
 } // namespace
 } // namespace quillmere

@@ -155,24 +155,6 @@ TEST_F(PersonInsertTest, ANameWithASingleQuoteFailsInTheLookupAndNotInTheComplai
     EXPECT_EQ(db.statements(), (Statements{all[0], "select count(*) from A01 where A0101 = 'O'Brien'"}));
 }
 
-TEST_F(PersonInsertTest, AnotherUnitThanTheHostsIsRefused) {
-    UnitCode = "U7";
-    item("A0130").Dmcod = "U8";
-    write("A0130", "财务局");
-    expectRefusal(wrongUnit);
-}
-
-TEST_F(PersonInsertTest, AnEmptyUnitIsRefusedToo) {
-    UnitCode = "U7";
-    expectRefusal(wrongUnit);
-}
-
-TEST_F(PersonInsertTest, TheWrongUnitReadsTheSameWhenAppended) {
-    UnitCode = "U7";
-    item("A0101").Check = "A 1";
-    expectRefusal("栏A0101最多可以录入1个字符！\r\n" + std::string(wrongUnit));
-}
-
 TEST_F(PersonInsertTest, TheHostsUnitPasses) {
     UnitCode = "U7";
     item("A0130").Dmcod = "U7";
@@ -185,12 +167,6 @@ TEST_F(PersonInsertTest, WithoutAUnitOfTheHostNothingIsHeldAgainstTheField) {
     item("A0130").Dmcod = "U8";
     EXPECT_TRUE(save());
     EXPECT_EQ(db.cell("select A0130 from A01"), "U8");
-}
-
-TEST_F(PersonInsertTest, TheUnitIsCheckedInATextBoxOfVarcharOnly) {
-    UnitCode = "U7";
-    item("A0130").FieldType = "ntext";
-    EXPECT_TRUE(save());
 }
 
 TEST_F(PersonInsertTest, AFailureOfAnyStatementIsShownAndEndsTheSaveThere) {

@@ -61,36 +61,6 @@ TEST_F(WalkTest, TheSecondOutOfRangeIntNamesAnotherRange) {
     expectRefusal("栏A0102 数据应该在 0到1000000范围内\r\n栏A0103 数据应该在 -32768到32767范围内");
 }
 
-TEST_F(WalkTest, TheSecondTextThatIsNoDateHasTwoBlanks) {
-    build("A01", {{field::text("A0102", "x"), "datetime"}, {field::month("A0103", "x"), "datetime"}});
-    write("A0102", "x");
-    write("A0103", "1990年1_月");
-    expectRefusal("栏A0102 数据应该是日期型，例如1990年03月\r\n栏A0103  数据应该是日期型，例如1990年03月");
-}
-
-TEST_F(WalkTest, TheSecondRequiredFieldHasTwoBlanks) {
-    build("A01", {{field::text("A0102", "x"), "int"}, {field::month("A0103", "x"), "int"}});
-    item("A0102").IsNUll = false;
-    item("A0103").IsNUll = false;
-    expectRefusal("栏A0102 为必填项\r\n栏A0103  为必填项");
-}
-
-TEST_F(WalkTest, TheOtherComplaintsReadTheSameWhenAppended) {
-    build("A01", {{field::text("A0102", "x"), "int"},
-                  {field::text("A0103", "x"), "int"},
-                  {field::text("A0104", "x"), "varchar"},
-                  {field::month("A0105", "x"), "varchar"},
-                  {field::text("A0106", "x"), "varchar"}});
-    write("A0102", "a");
-    write("A0103", "b");
-    write("A0104", characters(256));
-    write("A0105", "1___年__月");
-    write("A0106", "a'b");
-    expectRefusal("栏A0102 数据应该输入数字\r\n栏A0103 数据应该输入数字\r\n栏A0104 "
-                  "数据应该小于256个字符长度\r\n栏A0105 数据数据填写不完整\r\n栏A0106输入存在非法字符 ” ' "
-                  "“，请您将其改为 “ ‘ ”，或者去掉。 ");
-}
-
 TEST_F(WalkTest, ARuleAndTheRequiredCheckBothComplainAboutAnEmptyField) {
     buildText("varchar");
     item("A0102").Check = "L 15,18";
