@@ -42,6 +42,16 @@ TEST_F(TreeViewTest, NodesStandUnderTheirParentsInTheOrderOfAdding) {
     EXPECT_EQ(tree.property("Nodes.Count"), "5");
 }
 
+TEST_F(TreeViewTest, EachNodeKnowsItsPlaceAmongItsSiblings) {
+    tree.add(nullptr, "K3", "三");
+    EXPECT_EQ(node("K1").index, 0U);
+    EXPECT_EQ(node("K11").index, 0U);
+    EXPECT_EQ(node("K12").index, 1U);
+    EXPECT_EQ(node("K121").index, 0U);
+    EXPECT_EQ(node("K2").index, 1U);
+    EXPECT_EQ(node("K3").index, 2U);
+}
+
 TEST_F(TreeViewTest, AKeyThatIsThereIsAFailureAndAddsNothing) {
     EXPECT_EQ(failureOf([&] { tree.add(nullptr, "k12", "又"); }), number(Failure::KeyAlreadyUsed));
     EXPECT_EQ(tree.nodes().size(), 5U);

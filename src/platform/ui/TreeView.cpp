@@ -3,8 +3,6 @@
 #include "platform/Error.h"
 #include "platform/text/Text.h"
 
-#include <algorithm>
-
 namespace quillmere::ui {
 
 TreeView::Node& TreeView::add(Node* parent, std::string key, std::string text) {
@@ -15,7 +13,9 @@ TreeView::Node& TreeView::add(Node* parent, std::string key, std::string text) {
     node.key = std::move(key);
     node.text = std::move(text);
     node.parent = parent;
-    (parent == nullptr ? roots_ : parent->children).push_back(&node);
+    auto& siblings = parent == nullptr ? roots_ : parent->children;
+    node.index = siblings.size();
+    siblings.push_back(&node);
     place->second = &node;
     if (selected_ == nullptr) selected_ = &node;
     return node;
@@ -52,13 +52,29 @@ void TreeView::setExpanded(Node& node, bool expanded) {
     }
 }
 
+const std::vector<TreeView::Node*>& TreeView::siblingsOf(const Node& node) const {
+    return node.parent == nullptr ? roots_ : node.parent->children;
+}
+
+TreeView::Node* TreeView::below(Node& node) const {
+    if (node.expanded && !node.children.empty()) return node.children.front();
+    for (const Node* last = &node; last != nullptr; last = last->parent) {
+        const auto& siblings = siblingsOf(*last);
+        if (last->index + 1 < siblings.size()) return siblings[last->index + 1];
+    }
+    return nullptr;
+}
+
+TreeView::Node* TreeView::above(Node& node) const {
+    if (node.index == 0) return node.parent;
+    Node* last = siblingsOf(node)[node.index - 1];
+    while (last->expanded && !last->children.empty())
+        last = last->children.back();
+    return last;
+}
+
 void TreeView::personKeyDown(const KeyStroke& stroke) {
     if (selected_ == nullptr) return;
-    // The nodes that show, from top to bottom, are walked by their neighbours only.
-    const auto siblings = [&](const Node& node) -> const std::vector<Node*>& {
-        return node.parent == nullptr ? roots_ : node.parent->children;
-    };
-    const auto place = [&](const Node& node) { return std::ranges::find(siblings(node), &node); };
     switch (stroke.code) {
     case key::Right:
         if (!selected_->expanded)
@@ -72,29 +88,12 @@ void TreeView::personKeyDown(const KeyStroke& stroke) {
         else if (selected_->parent != nullptr)
             setSelectedItem(selected_->parent);
         break;
-    case key::Down: {
-        Node* next = selected_;
-        if (next->expanded && !next->children.empty()) {
-            setSelectedItem(next->children.front());
-            break;
-        }
-        while (next != nullptr && place(*next) + 1 == siblings(*next).end())
-            next = next->parent;
-        if (next != nullptr) setSelectedItem(*(place(*next) + 1));
+    case key::Down:
+        if (Node* next = below(*selected_); next != nullptr) setSelectedItem(next);
         break;
-    }
-    case key::Up: {
-        const auto here = place(*selected_);
-        if (here == siblings(*selected_).begin()) {
-            if (selected_->parent != nullptr) setSelectedItem(selected_->parent);
-            break;
-        }
-        Node* above = *(here - 1);
-        while (above->expanded && !above->children.empty())
-            above = above->children.back();
-        setSelectedItem(above);
+    case key::Up:
+        if (Node* next = above(*selected_); next != nullptr) setSelectedItem(next);
         break;
-    }
     default:
         break;
     }

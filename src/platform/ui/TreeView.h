@@ -3,6 +3,7 @@
 #include "platform/ui/Colour.h"
 #include "platform/ui/Control.h"
 
+#include <cstddef>
 #include <memory>
 #include <unordered_map>
 #include <vector>
@@ -18,6 +19,8 @@ public:
         std::string tag;
         Colour foreColor = colour::buttonText;
         Node* parent = nullptr;
+        /// Its place among its siblings, from 0.
+        std::size_t index = 0;
         std::vector<Node*> children;
         bool expanded = false;
     };
@@ -50,6 +53,11 @@ protected:
     void personKeyDown(const KeyStroke& stroke) override;
 
 private:
+    [[nodiscard]] const std::vector<Node*>& siblingsOf(const Node& node) const;
+    /// The nodes that show, from top to bottom, are walked by their neighbours only; none at the ends.
+    [[nodiscard]] Node* below(Node& node) const;
+    [[nodiscard]] Node* above(Node& node) const;
+
     std::vector<std::unique_ptr<Node>> nodes_;
     std::vector<Node*> roots_;
     std::unordered_map<std::string, Node*> byKey_;
