@@ -10,6 +10,16 @@ namespace {
 
 [[noreturn]] void raise(sqlite3* database) { throw std::runtime_error(sqlite3_errmsg(database)); }
 
+/// Characters of a text: what the statements call by a name that SQLite itself does not know.
+void lengthOf(sqlite3_context* context, int /*count*/, sqlite3_value** arguments) {
+    const unsigned char* byte = sqlite3_value_text(arguments[0]);
+    if (byte == nullptr) return;
+    int length = 0;
+    for (; *byte != 0; ++byte)
+        length += (*byte & 0xC0U) != 0x80U ? 1 : 0;
+    sqlite3_result_int(context, length);
+}
+
 } // namespace
 
 void BareEngine::Close::operator()(sqlite3* database) const { sqlite3_close_v2(database); }
@@ -20,6 +30,10 @@ BareEngine::BareEngine(const std::string& path) {
         sqlite3_open_v2(path.c_str(), &raw, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
     database_.reset(raw);
     if (code != SQLITE_OK) raise(raw);
+    if (sqlite3_create_function_v2(raw, "len", 1, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, lengthOf,
+                                   nullptr, nullptr, nullptr) != SQLITE_OK) {
+        raise(raw);
+    }
 }
 
 void BareEngine::run(std::span<const std::string> statements) {

@@ -1,6 +1,7 @@
 #include "OpenRecord.h"
 
 #include "Comparison.h"
+#include "StatementsOf.h"
 #include "metadata/Globals.h"
 #include "shell/MenuComposition.h"
 
@@ -15,16 +16,6 @@ namespace quillmere::bench {
 namespace {
 
 constexpr int rounds = 500;
-
-/// The statements that `action` sends.
-std::vector<std::string> statementsOf(data::RecordingConnection& connection,
-                                      const std::function<void()>& action) {
-    connection.clear();
-    connection.keepStatements(true);
-    action();
-    connection.keepStatements(false);
-    return connection.statements();
-}
 
 std::size_t countStarting(const std::vector<std::string>& statements, std::string_view begin) {
     return static_cast<std::size_t>(

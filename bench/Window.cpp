@@ -1,6 +1,6 @@
 #include "Window.h"
 
-#include "platform/ui/ScreenlessDesktop.h"
+#include "ChosenDesktop.h"
 #include "quillmere/IUserCtrl.h"
 
 #include <filesystem>
@@ -23,18 +23,6 @@ public:
 
 private:
     const std::function<void(frmPersonWh&)>& work_;
-};
-
-/// The screenless desktop is the desktop for as long as this lives.
-class ChosenDesktop {
-public:
-    explicit ChosenDesktop(ui::ScreenlessPerson& person) : desktop_(person) { ui::useDesktop(&desktop_); }
-    ~ChosenDesktop() { ui::useDesktop(nullptr); }
-    ChosenDesktop(const ChosenDesktop&) = delete;
-    ChosenDesktop& operator=(const ChosenDesktop&) = delete;
-
-private:
-    ui::ScreenlessDesktop desktop_;
 };
 
 } // namespace

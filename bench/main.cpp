@@ -2,6 +2,7 @@
 // statement too many, or too few, is sent; the times are printed and judged by whoever reads them.
 
 #include "BareEngine.h"
+#include "CodeSelector.h"
 #include "OpenRecord.h"
 #include "Window.h"
 #include "adapters/sqlite/SqliteConnection.h"
@@ -49,6 +50,7 @@ void measure(const std::string& path, std::size_t keptQueries) {
         bench::measureOpenRecord(window, *connection, engine);
         bench::measureMenu(window, *connection, engine);
     });
+    bench::measureCodeSelector(connection, engine);
 }
 
 /// The bare engine compiles each statement anew; so does the system when it keeps none.
@@ -56,7 +58,11 @@ void measureAll() {
     using namespace quillmere;
     const WorkFolder folder;
     const std::string path = folder.file("register.db");
-    sample::build(*sqlite::open({.path = path, .create = true}), {});
+    {
+        const auto building = sqlite::open({.path = path, .create = true});
+        sample::build(*building, {});
+        bench::addLargeCodeTables(*building);
+    }
     const sqlite::OpenOptions defaults;
     std::printf("as it is used, the last %zu queries kept compiled\n", defaults.keptQueries);
     measure(path, defaults.keptQueries);
