@@ -172,6 +172,18 @@ TEST(MaskBoxTest, AClickPlacesTheCaretForTheModelToo) {
     });
 }
 
+TEST(MaskBoxTest, AClickThatBringsTheFocusLeavesTheCaretAtTheFront) {
+    inMask([](MaskForm& form, QLineEdit& editor) {
+        form.before.SetFocus();
+        ASSERT_TRUE(focusComesTo("txtBefore"));
+        QTest::mouseClick(&editor, Qt::LeftButton, Qt::NoModifier, editor.rect().center());
+        ASSERT_TRUE(focusComesTo("mskMonth"));
+        EXPECT_EQ(0U, form.month.SelStart());
+        typeKeys("199003");
+        EXPECT_EQ("1990年03月", form.month.Text());
+    });
+}
+
 TEST(MaskBoxTest, ATextSetByTheProgramShowsAsItIs) {
     inMask([](MaskForm& form, QLineEdit& editor) {
         form.month.setText("1990-03");

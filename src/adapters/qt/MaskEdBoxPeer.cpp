@@ -116,9 +116,13 @@ bool MaskEdBoxPeer::keyPressed(QKeyEvent& event) {
 }
 
 bool MaskEdBoxPeer::mousePressed(QMouseEvent& event, QWidget& /*target*/) {
-    const bool twice = event.type() == QEvent::MouseButtonDblClick && event.button() == Qt::LeftButton;
-    return twice ? !form().doubleClick(*control())
-                 : !form().click(*control(), static_cast<int>(event.button()));
+    const bool left = event.button() == Qt::LeftButton;
+    if (left && event.type() == QEvent::MouseButtonDblClick) return !form().doubleClick(*control());
+    const bool hadFocus = control()->hasFocus();
+    const bool reached = form().click(*control(), static_cast<int>(event.button()));
+    // The click that brings the focus does not take the caret along: the mask is filled from where the
+    // focus has put it.
+    return !reached || (left && !hadFocus);
 }
 
 void MaskEdBoxPeer::mirror(ui::Property property) {
