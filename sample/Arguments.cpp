@@ -19,8 +19,7 @@ Number numberOf(const std::string& option, const std::string& value, Number high
     return number;
 }
 
-// The running number of people and units is a 16-bit one; some room is left for new records.
-constexpr int mostRecords = 30000;
+constexpr int mostRecords = 1000000;
 
 } // namespace
 
@@ -42,6 +41,8 @@ Arguments parseArguments(const std::vector<std::string>& arguments) {
             result.options.people = false;
         } else if (option == "--output") {
             result.output = value();
+        } else if (option == "--photos") {
+            result.photos = value();
         } else if (option == "--persons") {
             result.options.persons = numberOf(option, value(), mostRecords);
         } else if (option == "--units") {
@@ -57,15 +58,17 @@ Arguments parseArguments(const std::vector<std::string>& arguments) {
 }
 
 std::string_view helpText() {
-    return "usage: quillmere-sample --output FILE [--persons N] [--units N] [--seed N] [--empty] [--force]\n"
+    return "usage: quillmere-sample --output FILE [--persons N] [--units N] [--seed N] [--photos DIR]\n"
+           "                        [--empty] [--force]\n"
            "\n"
            "Makes a sample register in an SQLite file: the catalogue, the code tables, and made-up\n"
            "people, units and projects.\n"
            "\n"
            "  --output FILE   the file to make\n"
-           "  --persons N     how many people (50)\n"
-           "  --units N       how many units (10)\n"
+           "  --persons N     how many people, up to a million (200)\n"
+           "  --units N       how many units, up to a million (20)\n"
            "  --seed N        another number makes other people (20260115)\n"
+           "  --photos DIR    leaves portraits of one person in three there\n"
            "  --empty         the catalogue and the code tables alone\n"
            "  --force         replaces a file that is there\n"
            "  --help          this text\n";

@@ -12,6 +12,8 @@ namespace quillmere::sample {
 /// What the command line asks for.
 struct Arguments {
     std::string output;
+    /// Where portraits of some people are left; empty for none.
+    std::string photos;
     Options options;
     bool force = false;
     bool help = false;

@@ -2,6 +2,7 @@
 
 #include "adapters/sqlite/SqliteConnection.h"
 #include "platform/Error.h"
+#include "platform/data/ObservedConnections.h"
 
 #include <filesystem>
 #include <system_error>
@@ -10,6 +11,9 @@ namespace quillmere::sample {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// 128 MB, which keeps the upper pages of every table and index at hand.
+constexpr auto largeCache = "pragma cache_size=-131072";
 
 fs::path pathOf(const std::string& utf8) { return {std::u8string(utf8.begin(), utf8.end())}; }
 
@@ -20,7 +24,8 @@ void removeQuietly(const fs::path& path) {
 
 } // namespace
 
-void buildFile(const std::string& path, const Options& options, bool replace) {
+void buildFile(const std::string& path, const Options& options, bool replace,
+               const std::function<void(std::string_view statement)>& listen) {
     const fs::path target = pathOf(path);
     if (fs::exists(target) && !replace) {
         throw Error(Failure::PermissionDenied, "文件已存在：" + path, "quillmere-sample");
@@ -30,7 +35,15 @@ void buildFile(const std::string& path, const Options& options, bool replace) {
     try {
         // A write-ahead log would leave a second file beside one that is meant to be handed on.
         const auto connection = sqlite::open({.path = unfinished, .create = true, .writeAheadLog = false});
-        build(*connection, options);
+        // The file is thrown away when anything fails, so nothing has to be taken back or to outlast a power
+        // failure before it is complete. The settings hold for this connection alone.
+        connection->execute("pragma journal_mode=off");
+        connection->execute("pragma synchronous=off");
+        connection->execute("pragma locking_mode=exclusive");
+        connection->execute(largeCache);
+        data::RecordingConnection observed(connection, listen);
+        observed.keepStatements(false);
+        build(observed, options);
         connection->close();
     } catch (...) {
         removeQuietly(pathOf(unfinished));

@@ -37,7 +37,7 @@ void PersonWriter::write(const Person& person, const Pools& pools, Random& rando
 
 void PersonWriter::writeMaster(const Person& person) {
     const Employer& employer = person.employer;
-    std::vector<std::string> row{quoted(person.key), std::to_string(++running_)};
+    std::vector<std::string> row{quoted(person.key), std::to_string(runningNumber(++written_))};
     const auto add = [&row](std::initializer_list<std::string_view> values) {
         for (const std::string_view value : values)
             row.push_back(quoted(value));

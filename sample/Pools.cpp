@@ -22,9 +22,11 @@ listOf(const std::map<std::string, std::vector<std::string>, std::less<>>& lists
 } // namespace
 
 Pools::Pools() {
-    const CsvTable words = read("pools.csv");
-    for (const auto& row : words.rows())
-        words_[row[0]].push_back(row[1]);
+    for (const char* file : {"pools.csv", "record_words.csv"}) {
+        const CsvTable words = read(file);
+        for (const auto& row : words.rows())
+            words_[row[0]].push_back(row[1]);
+    }
     const CsvTable majors = read("pool_majors.csv");
     for (const auto& row : majors.rows())
         majors_.push_back({row[0], row[1], row[2]});

@@ -7,18 +7,18 @@ namespace {
 
 constexpr int goesAbroad = 1;
 
-std::string amount(int hundreds) {
-    std::string text = std::to_string(hundreds / 100);
-    if (hundreds % 100 != 0) text += "." + padded(hundreds % 100, 2);
-    return text;
-}
-
 std::string projectNumber(Random& random, int year, int serial) {
     return "KVEL" + padded(year % 100, 2) + padded(random.between(1, 12), 2) +
            padded(random.between(1, 28), 2) + padded(serial % 1000, 3) + padded(random.between(0, 999), 3);
 }
 
 } // namespace
+
+std::string amountText(int hundredths) {
+    std::string text = std::to_string(hundredths / 100);
+    if (hundredths % 100 != 0) text += "." + padded(hundredths % 100, 2);
+    return text;
+}
 
 Project makeProject(const Pools& pools, Random& random, const std::string& key, int year, int type,
                     int serial) {
@@ -30,9 +30,11 @@ Project makeProject(const Pools& pools, Random& random, const std::string& key, 
     project.group = random.pick(pools.codes("DM_XMFZ"));
     const int total = 25 * random.between(40, 400);
     const int sponsored = total / 2 / 25 * 25;
-    project.total = amount(total);
-    project.sponsored = amount(sponsored);
-    project.matching = amount(total - sponsored);
+    project.sponsoredHundredths = sponsored;
+    project.matchingHundredths = total - sponsored;
+    project.total = amountText(total);
+    project.sponsored = amountText(project.sponsoredHundredths);
+    project.matching = amountText(project.matchingHundredths);
     project.from = std::to_string(year) + "-" + padded(random.between(1, 6), 2);
     const int length = project.stage == "03" ? 1 : random.between(1, 2);
     project.to = std::to_string(year + length) + "-12";

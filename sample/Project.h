@@ -27,7 +27,13 @@ struct Project {
     std::string closingForm;
     std::string acceptedBy;
     int year = 0;
+    /// The amounts `sponsored` and `matching` again, to reckon with.
+    int sponsoredHundredths = 0;
+    int matchingHundredths = 0;
 };
+
+/// An amount in hundredths as a person types it: "12", "12.50".
+[[nodiscard]] std::string amountText(int hundredths);
 
 /// Makes the project of the identity `key`, applied for in `year` under sponsorship type `type`.
 /// The stage follows from the year. `serial` numbers the projects of a year, from 1.

@@ -12,6 +12,13 @@
 
 namespace quillmere::sample {
 
+/// The running number of the `number`th person or unit. New ones take the highest and one more, as a number
+/// of 16 bits; a register bigger than that counts from 1 again, so that there is room for new ones.
+[[nodiscard]] constexpr int runningNumber(int number) {
+    constexpr int highest = 30000;
+    return (number - 1) % highest + 1;
+}
+
 /// Writes people into `A01`, `A02`, `A03` and `A08`; the running number `A0199` counts from 1.
 class PersonWriter {
 public:
@@ -28,7 +35,7 @@ private:
     InsertBatch studies_;
     InsertBatch jobs_;
     InsertBatch papers_;
-    int running_ = 0;
+    int written_ = 0;
 };
 
 /// Writes projects into `P01`, and the plan of those that were approved into `Plan1`.
@@ -60,5 +67,7 @@ private:
 
 /// The employer that the `number`th unit is made from, from 1.
 [[nodiscard]] const Employer& unitEmployer(const Pools& pools, int number);
+/// That unit's name; no two are alike.
+[[nodiscard]] std::string unitName(const Pools& pools, int number);
 
 } // namespace quillmere::sample

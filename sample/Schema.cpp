@@ -87,15 +87,23 @@ std::vector<std::string> indexStatements(const std::vector<SetRow>& sets) {
     return statements;
 }
 
-void createSchema(data::Connection& connection, const std::vector<SetRow>& sets, const Dialect& dialect) {
+void createTables(data::Connection& connection, const std::vector<SetRow>& sets, const Dialect& dialect) {
     for (const std::string& statement : catalogueStatements(dialect))
         connection.execute(statement);
     for (const std::string& table : codeTableNames())
         connection.execute(codeTableStatement(table, dialect));
     for (const SetRow& set : sets)
         connection.execute(dataTableStatement(set, dialect));
+}
+
+void createIndexes(data::Connection& connection, const std::vector<SetRow>& sets) {
     for (const std::string& statement : indexStatements(sets))
         connection.execute(statement);
+}
+
+void createSchema(data::Connection& connection, const std::vector<SetRow>& sets, const Dialect& dialect) {
+    createTables(connection, sets, dialect);
+    createIndexes(connection, sets);
 }
 
 } // namespace quillmere::sample

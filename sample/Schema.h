@@ -23,7 +23,10 @@ namespace quillmere::sample {
 /// it repeats for a moment while records are renumbered.
 [[nodiscard]] std::vector<std::string> indexStatements(const std::vector<SetRow>& sets);
 
-/// Makes every table and index of the register in an empty database.
+/// Makes every table of the register in an empty database, and the indexes of the data tables.
+void createTables(data::Connection& connection, const std::vector<SetRow>& sets, const Dialect& dialect);
+void createIndexes(data::Connection& connection, const std::vector<SetRow>& sets);
+/// The two together.
 void createSchema(data::Connection& connection, const std::vector<SetRow>& sets, const Dialect& dialect);
 
 } // namespace quillmere::sample

@@ -29,6 +29,11 @@ const Employer& unitEmployer(const Pools& pools, int number) {
     return pools.employers()[static_cast<std::size_t>(number - 1) % pools.employers().size()];
 }
 
+std::string unitName(const Pools& pools, int number) {
+    const auto branch = static_cast<std::size_t>(number - 1) / pools.employers().size();
+    return unitEmployer(pools, number).name + (branch == 0 ? "" : "第" + std::to_string(branch) + "分部");
+}
+
 UnitWriter::UnitWriter(data::Connection& connection)
     : master_(connection, "B01",
               "A00,B0199,B0101,B0102,B0103,B0104,B0105,B0106,B0107,B0108,B0109,B0110,B0111,B0112,B0113,B0114,"
@@ -37,11 +42,9 @@ UnitWriter::UnitWriter(data::Connection& connection)
 
 void UnitWriter::write(const std::string& key, int number, int year, const Pools& pools, Random& random) {
     const Employer& employer = unitEmployer(pools, number);
-    const auto branch = static_cast<std::size_t>(number - 1) / pools.employers().size();
-    const std::string name = employer.name + (branch == 0 ? "" : "第" + std::to_string(branch) + "分部");
-    std::vector<std::string> row{quoted(key), std::to_string(number)};
+    std::vector<std::string> row{quoted(key), std::to_string(runningNumber(number))};
     for (const std::string& value :
-         {name, employer.kind, employer.nature, employer.department,
+         {unitName(pools, number), employer.kind, employer.nature, employer.department,
           pools.address(employer, random.below(100), random.between(1, 199)), employer.postcode,
           leader(pools, random), random.pick(pools.words("leaderPost")), phone(random), leader(pools, random),
           std::string("人事处处长"), phone(random)}) {

@@ -1,6 +1,8 @@
+#include "adapters/sqlite/SqliteConnection.h"
 #include "platform/Error.h"
 #include "sample/Arguments.h"
 #include "sample/OutputFile.h"
+#include "sample/photos/PhotoFolder.h"
 
 #include <cstdlib>
 #include <exception>
@@ -18,6 +20,10 @@ int run(const std::vector<std::string>& words) {
         return EXIT_SUCCESS;
     }
     buildFile(arguments.output, arguments.options, arguments.force);
+    if (!arguments.photos.empty()) {
+        writePhotos(*quillmere::sqlite::open({.path = arguments.output, .writeAheadLog = false}),
+                    arguments.photos);
+    }
     return EXIT_SUCCESS;
 }
 

@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
+
 namespace quillmere::sample {
 namespace {
 
@@ -76,6 +78,56 @@ TEST_F(PanelFields, TypeFitsTheWidget) {
             break;
         }
     });
+}
+
+TEST_F(PanelFields, EveryFieldIsExplainedAndHasItsColumn) {
+    eachField([](const cFieldItem& item, const quillmere::FieldRow&) {
+        EXPECT_FALSE(item.FldExplain.empty());
+        EXPECT_GE(item.FldWidth, 500);
+        EXPECT_FALSE(item.FldOrder.empty());
+        EXPECT_TRUE(text::lower(item.FieldType) == "datetime" || item.Style.empty()) << item.Style;
+    });
+}
+
+TEST_F(PanelFields, DigitsAloneAreTypedIntoCountsRanksAndThePostalCode) {
+    eachField([](const cFieldItem& item, const quillmere::FieldRow& field) {
+        if (field.filter != KeyFilter::Digits) return;
+        const bool count = text::lower(item.FieldType) == "int" && item.Check.starts_with("N ");
+        EXPECT_TRUE(count || item.Check == "L 0,6") << item.FieldType << ' ' << item.Check;
+    });
+}
+
+TEST_F(PanelFields, DecimalsAndAmountsAreNumbersByTheirRule) {
+    eachField([](const cFieldItem& item, const quillmere::FieldRow& field) {
+        if (field.filter != KeyFilter::Decimal && field.unit.empty()) return;
+        EXPECT_EQ(text::lower(item.FieldType), "varchar");
+        EXPECT_TRUE(item.Check.starts_with("N ")) << item.Check;
+    });
+}
+
+TEST_F(PanelFields, RulesOfTextKeepToTheLength) {
+    eachField([](const cFieldItem& item, const quillmere::FieldRow&) {
+        const std::string type = text::lower(item.FieldType);
+        if ((type != "varchar" && type != "ntext") || !item.Check.starts_with("A ")) return;
+        EXPECT_EQ(item.Check, "A " + item.FieldLength);
+    });
+}
+
+TEST_F(PanelFields, EveryFieldOfTheRegisterIsOnAPanelOrWrittenByTheSystem) {
+    std::set<std::string> shown;
+    eachField([&](const cFieldItem& item, const quillmere::FieldRow&) {
+        shown.insert(item.TblName + "." + item.ItemName);
+    });
+    // The row editor shows these under boxes of its own.
+    const std::set<std::string> editors{"P03", "C04"};
+    const std::set<std::string> written{"A0136", "A0137", "A0199", "B0124",
+                                        "B0199", "P0105", "P0111", "P0123"};
+    for (const auto& row : textRows(defaultRegister(), "select TblName, ItemName from s_infoitem")) {
+        const bool key = row[1] == "A00" || row[1] == row[0] + "99";
+        EXPECT_TRUE(key || editors.contains(row[0]) || written.contains(row[1]) ||
+                    shown.contains(row[0] + "." + row[1]))
+            << row[0] << ' ' << row[1];
+    }
 }
 
 TEST_F(PanelFields, OnlyTextBoxesAreCoded) {

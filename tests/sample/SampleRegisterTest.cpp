@@ -167,20 +167,27 @@ TEST(SampleRegister, TelephoneNumbersBelongToNobody) {
 
 TEST(SampleRegister, RunningNumbersCountFromOne) {
     EXPECT_EQ(count("select min(A0199) from A01"), 1);
-    EXPECT_EQ(count("select max(A0199) from A01"), 50);
-    EXPECT_EQ(count("select count(distinct A0199) from A01"), 50);
-    EXPECT_EQ(count("select max(B0199) from B01"), 10);
+    EXPECT_EQ(count("select max(A0199) from A01"), 200);
+    EXPECT_EQ(count("select count(distinct A0199) from A01"), 200);
+    EXPECT_EQ(count("select max(B0199) from B01"), 20);
+}
+
+/// The row editor numbers the schedules of two types over the whole table.
+std::string ownNumbers(const std::string& set) {
+    return set != "P02" ? "" : " where A00 in (select A00 from A01 where A0136 in ('01','02'))";
 }
 
 TEST(SampleRegister, SequencesRunFromOneWithoutGapsInTheSetsOrder) {
     for (const auto& row :
          textRows(defaultRegister(), "select tblname, iif(orderfield is null,tblname || '99',orderfield) "
-                                     "from s_infotable where Property = false")) {
+                                     "from s_infotable where Property = false and tblname not in "
+                                     "('P03','C04')")) {
         const std::string sequence = row[0] + "99";
         std::string key;
         int expected = 0;
-        for (const auto& record : textRows(defaultRegister(), "select A00, " + sequence + " from " + row[0] +
-                                                                  " order by A00," + row[1])) {
+        for (const auto& record :
+             textRows(defaultRegister(), "select A00, " + sequence + " from " + row[0] + ownNumbers(row[0]) +
+                                             " order by A00," + row[1])) {
             expected = record[0] == key ? expected + 1 : 1;
             key = record[0];
             EXPECT_EQ(record[1], std::to_string(expected)) << row[0] << ' ' << key;
@@ -189,10 +196,10 @@ TEST(SampleRegister, SequencesRunFromOneWithoutGapsInTheSetsOrder) {
 }
 
 TEST(SampleRegister, EveryPersonAndUnitHasOneProject) {
-    EXPECT_EQ(count("select count(*) from (select A00 from A01 union all select A00 from B01)"), 60);
+    EXPECT_EQ(count("select count(*) from (select A00 from A01 union all select A00 from B01)"), 220);
     EXPECT_EQ(count("select count(*) from P01 where A00 in (select A00 from A01 union select A00 from B01)"),
-              60);
-    EXPECT_EQ(count("select count(distinct A00) from P01"), 60);
+              220);
+    EXPECT_EQ(count("select count(distinct A00) from P01"), 220);
 }
 
 TEST(SampleRegister, AllStagesAndTypesButTheCollectiveOneOccur) {
