@@ -17,7 +17,7 @@ void LoadPersonPhoto(ui::Control& control, std::string_view path) {
     if (control.name() != "imgPerson" || !PhotoFileExists(path)) return;
     auto* image = dynamic_cast<ui::Image*>(&control);
     if (image == nullptr) throw Error(Failure::MemberNotFound);
-    image->setPicture(std::string(path));
+    ui::desktop().showPicture(*image, std::string(path));
 }
 
 void DeletePersonPhoto(std::string_view personID, std::string_view folder) {

@@ -15,6 +15,7 @@ class Control;
 [[nodiscard]] bool PhotoFileExists(std::string_view path);
 
 /// Shows the file in the image named "imgPerson" when the file exists; else leaves the image alone.
+/// Raises InvalidPicture for a file that is no picture; the image then keeps what it shows.
 void LoadPersonPhoto(ui::Control& control, std::string_view path);
 
 /// Deletes a person's photo when there is one, a read-only one too. A failure is shown in a warning

@@ -29,6 +29,7 @@ constexpr std::array descriptions{
     Description{Failure::CannotCreateObject, "ActiveX 部件不能创建对象"},
     Description{Failure::MemberNotFound, "对象不支持该属性或方法"},
     Description{Failure::KeyAlreadyUsed, "该键已经与该集合的一个元素关联"},
+    Description{Failure::InvalidPicture, "无效图片"},
     Description{Failure::BadArguments, "参数类型不正确，或不在可以接受的范围之内，或与其他参数冲突。"},
     Description{Failure::NoCurrentRecord,
                 "BOF 或 EOF 中有一个是“真”，或者当前的记录已被删除，所需的操作要求一个当前的记录。"},

@@ -22,6 +22,7 @@ enum class Failure : int {
     CannotCreateObject = 429,
     MemberNotFound = 438,
     KeyAlreadyUsed = 457,
+    InvalidPicture = 481,
     BadArguments = 3001,
     NoCurrentRecord = 3021,
     ItemNotFound = 3265,

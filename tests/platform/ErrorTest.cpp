@@ -29,6 +29,7 @@ const Row rows[] = {
     {Failure::CannotCreateObject, 429, "ActiveX 部件不能创建对象"},
     {Failure::MemberNotFound, 438, "对象不支持该属性或方法"},
     {Failure::KeyAlreadyUsed, 457, "该键已经与该集合的一个元素关联"},
+    {Failure::InvalidPicture, 481, "无效图片"},
     {Failure::NoCurrentRecord, 3021,
      "BOF 或 EOF 中有一个是“真”，或者当前的记录已被删除，所需的操作要求一个当前的记录。"},
     {Failure::ItemNotFound, 3265, "在对应所需名称或序数的集合中，未找到项目。"},
@@ -47,13 +48,14 @@ TEST(ErrorTest, AFailureHasItsNumberAndItsWords) {
 TEST(ErrorTest, NoTwoFailuresReadAlike) {
     std::set<std::string_view> seen;
     for (const Failure failure :
-         {Failure::InvalidCall,      Failure::Overflow,           Failure::SubscriptOutOfRange,
-          Failure::TypeMismatch,     Failure::FileNotFound,       Failure::PermissionDenied,
-          Failure::PathAccess,       Failure::PathNotFound,       Failure::ObjectNotSet,
-          Failure::InvalidUseOfNull, Failure::CannotCreateObject, Failure::MemberNotFound,
-          Failure::KeyAlreadyUsed,   Failure::BadArguments,       Failure::NoCurrentRecord,
-          Failure::ItemNotFound,     Failure::ObjectClosed,       Failure::InvalidConnection,
-          Failure::StatementFailed,  Failure::ConstraintFailed,   Failure::Unspecified})
+         {Failure::InvalidCall,       Failure::Overflow,           Failure::SubscriptOutOfRange,
+          Failure::TypeMismatch,      Failure::FileNotFound,       Failure::PermissionDenied,
+          Failure::PathAccess,        Failure::PathNotFound,       Failure::ObjectNotSet,
+          Failure::InvalidUseOfNull,  Failure::CannotCreateObject, Failure::MemberNotFound,
+          Failure::KeyAlreadyUsed,    Failure::InvalidPicture,     Failure::BadArguments,
+          Failure::NoCurrentRecord,   Failure::ItemNotFound,       Failure::ObjectClosed,
+          Failure::InvalidConnection, Failure::StatementFailed,    Failure::ConstraintFailed,
+          Failure::Unspecified})
         EXPECT_TRUE(seen.insert(descriptionOf(failure)).second) << static_cast<int>(failure);
 }
 

@@ -1,5 +1,6 @@
 #include "platform/files/Files.h"
 
+#include "platform/files/FileSystem.h"
 #include "support/FailureNumber.h"
 
 #include <gtest/gtest.h>
@@ -9,6 +10,7 @@
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <vector>
 
 namespace quillmere::files {
 namespace {
@@ -160,6 +162,47 @@ TEST_F(FilesTest, CopyingOverAReadOnlyFileIsDeniedAndKeepsIt) {
     fs::permissions(folder_ / "b", fs::perms::owner_read);
     EXPECT_EQ(failureOf([&] { copyOver(path("a"), path("b")); }), number(Failure::PermissionDenied));
     EXPECT_EQ(content("b"), "old");
+}
+
+TEST_F(FilesTest, AFileIsReadByteForByte) {
+    const std::string bytes("a\0\r\n\xFFz", 6);
+    write("a", bytes);
+    EXPECT_EQ(read(path("a")), bytes);
+    EXPECT_EQ(failureOf([&] { (void)read(path("missing")); }), number(Failure::FileNotFound));
+    EXPECT_EQ(failureOf([&] { (void)read(utf8(folder_)); }), number(Failure::FileNotFound));
+}
+
+/// Other files than the machine's: each operation leaves a word.
+class OtherFiles final : public FileSystem {
+public:
+    bool exists(std::string_view path) override { return note("exists", path), true; }
+    std::uint64_t size(std::string_view path) override { return note("size", path), 7; }
+    std::string read(std::string_view path) override { return note("read", path), "content"; }
+    void removeForced(std::string_view path) override { note("remove", path); }
+    void copyOver(std::string_view from, std::string_view to) override {
+        note("copy", std::string(from) + ">" + std::string(to));
+    }
+
+    std::vector<std::string> seen;
+
+private:
+    void note(const std::string& word, std::string_view path) {
+        seen.push_back(word + " " + std::string(path));
+    }
+};
+
+TEST_F(FilesTest, OtherFilesCanBePutInUseAndTakenBack) {
+    OtherFiles other;
+    use(&other);
+    EXPECT_TRUE(exists("x\\y"));
+    EXPECT_EQ(files::size("a"), 7U);
+    EXPECT_EQ(read("b"), "content");
+    removeForced("c");
+    copyOver("d", "e");
+    use(nullptr);
+    EXPECT_FALSE(exists(path("x")));
+    EXPECT_EQ(other.seen,
+              (std::vector<std::string>{"exists x\\y", "size a", "read b", "remove c", "copy d>e"}));
 }
 
 } // namespace

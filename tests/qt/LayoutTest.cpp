@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTableView>
 
 #include <algorithm>
@@ -106,6 +108,42 @@ TEST_F(LayoutTest, NothingIsClippedOrOverlaidOnAnyPanelAtAnyWidth) {
                     EXPECT_EQ(Texts{}, clippedTexts(shown)) << window.GetUserCtrl()->name() << " " << width;
                     EXPECT_EQ(Texts{}, misplacedFields(shown))
                         << window.GetUserCtrl()->name() << " " << width;
+                }
+            }
+        }
+    });
+}
+
+TEST_F(LayoutTest, FieldsScrollOnlyWhereThereIsNoRoomForThem) {
+    maintain([&](frmPersonWh&) {
+        QWidget& shown = windowNamed("frmPersonWh");
+        // Few fields over a list, and few fields over nothing.
+        for (const auto& [group, item] : {std::pair(1, 2), std::pair(2, 1)}) {
+            clickMenu(group, item);
+            for (int width = 740; width <= 1600; width += 43) {
+                shown.resize(width, 760);
+                settle();
+                for (const auto* area : shown.findChildren<QScrollArea*>()) {
+                    if (!area->isVisible() || area->property("role") == "menu") continue;
+                    EXPECT_TRUE(waitUntil([area] { return area->verticalScrollBar()->maximum() == 0; }))
+                        << item << " " << width;
+                }
+            }
+        }
+    });
+}
+
+TEST_F(LayoutTest, FewFieldsTakeNoMoreRoomThanTheyNeed) {
+    maintain([&](frmPersonWh&) {
+        QWidget& shown = windowNamed("frmPersonWh");
+        for (const auto& [group, item] : {std::pair(1, 2), std::pair(2, 1)}) {
+            clickMenu(group, item);
+            for (const int width : {740, 1280}) {
+                shown.resize(width, 1000);
+                settle();
+                for (const auto* area : shown.findChildren<QScrollArea*>()) {
+                    if (!area->isVisible() || area->property("role") == "menu") continue;
+                    EXPECT_LE(area->height(), area->sizeHint().height() + 1) << item << " " << width;
                 }
             }
         }

@@ -9,6 +9,7 @@
 
 #include <deque>
 #include <functional>
+#include <map>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -18,8 +19,9 @@ class QAbstractItemView;
 
 namespace quillmere::test {
 
-/// How a person answers a message box: with the mouse on a button, or with a key.
-enum class Press { Ok, Yes, No, EnterKey, EscapeKey, YesKey, NoKey };
+/// How a person answers a message box: with the mouse on a button, or with a key. Nothing leaves it to
+/// the test.
+enum class Press { Ok, Yes, No, EnterKey, EscapeKey, YesKey, NoKey, Nothing };
 
 /// A person before real windows, who follows a script and works with key and mouse events alone. A box
 /// or form that no entry of the script is for fails the test, and so does an entry that is left over.
@@ -31,6 +33,8 @@ public:
     ~RealPerson() override;
 
     void expectBox(std::string text, std::string title, Press answer = Press::Ok);
+    /// Answers boxes of that text, however many come, until the end.
+    void answerWhenAsked(std::string text, ui::Answer answer) { standing_[std::move(text)] = answer; }
     /// Works on the next form that opens; `name` empty for whatever form. A form that is still open
     /// when the work is done is closed by its frame.
     void onForm(Work work, std::string name = {});
@@ -55,6 +59,7 @@ private:
     };
 
     std::deque<ExpectedBox> expectedBoxes_;
+    std::map<std::string, ui::Answer> standing_;
     std::deque<ExpectedForm> expectedForms_;
     std::vector<ui::MessageBox> boxes_;
     std::vector<std::string> seen_;

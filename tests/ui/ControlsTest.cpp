@@ -192,6 +192,7 @@ TEST_F(ControlsTest, EveryKindHasItsName) {
     EXPECT_EQ(nameOf(Kind::CommandButton), "CommandButton");
     EXPECT_EQ(nameOf(Kind::VerticalMenu), "VerticalMenu");
     EXPECT_EQ(nameOf(Kind::Skin), "Skin");
+    EXPECT_EQ(nameOf(Kind::CommonDialog), "CommonDialog");
 }
 
 TEST_F(ControlsTest, ABandsControlStandsInTheBar) {

@@ -142,6 +142,16 @@ TEST_F(DesktopTest, AHiddenFormEndsItsShowAndIsNotLoadedAnewByTheNext) {
     EXPECT_EQ(log, (Log{"resize frmA", "activate frmA", "unload frmA"}));
 }
 
+TEST_F(DesktopTest, AFormThatItsCallerHasLoadedIsNotLoadedAnew) {
+    form.load();
+    EXPECT_EQ(log, (Log{"load frmA"}));
+    EXPECT_FALSE(form.isOpen());
+    // What the caller changes on the loaded form is there when it shows.
+    form.setCaption("changed");
+    person.show(form, [&](Form& shown) { EXPECT_EQ(shown.Caption(), "changed"); });
+    EXPECT_EQ(log, (Log{"load frmA", "resize frmA", "activate frmA", "unload frmA"}));
+}
+
 TEST_F(DesktopTest, AFailureInLoadUnloadsAndComesOut) {
     form.atLoad = [] { throw Error(Failure::Overflow); };
     EXPECT_EQ(failureOf([&] { desktop().showModal(form); }), number(Failure::Overflow));

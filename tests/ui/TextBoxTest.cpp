@@ -359,5 +359,40 @@ TEST_F(TextBoxTest, NoSequenceOfKeysBreaksTheBox) {
     });
 }
 
+// ---- double click
+
+struct WordRow {
+    const char* text;
+    std::size_t caret;
+    const char* word;
+};
+
+class TextBoxWordTest : public TextBoxTest, public testing::WithParamInterface<WordRow> {};
+
+TEST_P(TextBoxWordTest, ADoubleClickSelectsWhatStandsTogether) {
+    box.setText(GetParam().text);
+    work([&] {
+        box.setSelection(GetParam().caret, 0);
+        EXPECT_TRUE(form.doubleClick(box));
+        EXPECT_EQ(text::mid(box.Text(), box.SelStart() + 1, box.SelLength()), GetParam().word);
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Carets, TextBoxWordTest,
+    testing::Values(WordRow{"abc def", 0, "abc"}, WordRow{"abc def", 2, "abc"}, WordRow{"abc  def", 3, "  "},
+                    WordRow{"abc def", 7, "def"}, WordRow{"北京市，海淀区", 1, "北京市"},
+                    WordRow{"北京市，海淀区", 3, "，"}, WordRow{"北京市，海淀区", 5, "海淀区"},
+                    WordRow{"010-6275", 4, "6275"}, WordRow{"", 0, ""}, WordRow{"第5组A班", 0, "第5组A班"}));
+
+TEST_F(TextBoxTest, ADoubleClickOnALockedBoxSelectsNothing) {
+    box.setText("汉族");
+    box.setLocked(true);
+    work([&] {
+        EXPECT_TRUE(form.doubleClick(box));
+        EXPECT_EQ(box.SelLength(), 0U);
+    });
+}
+
 } // namespace
 } // namespace quillmere::ui

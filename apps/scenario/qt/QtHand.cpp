@@ -14,9 +14,11 @@
 #include <QClipboard>
 #include <QElapsedTimer>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QPointer>
 #include <QTabBar>
+#include <QTableView>
 #include <QTreeView>
 
 #include <algorithm>
@@ -104,11 +106,14 @@ void doubleClickAt(QWidget& target, const QPoint& point, const ui::Form& form, c
     settle();
 }
 
-/// Where a click acts on a widget: a check box has its box at the left.
+/// Where a click acts on a widget: a check box has its box at the left, and in a text a click takes the
+/// caret along, so it goes where the caret stands.
 QPoint pointOn(const QWidget& widget) {
     constexpr int insideTheBox = 10;
-    const QPoint middle = widget.rect().center();
-    return qobject_cast<const QCheckBox*>(&widget) != nullptr ? QPoint(insideTheBox, middle.y()) : middle;
+    if (qobject_cast<const QCheckBox*>(&widget) != nullptr) return {insideTheBox, widget.rect().center().y()};
+    if (const auto* line = qobject_cast<const QLineEdit*>(&widget))
+        return line->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+    return widget.rect().center();
 }
 
 void sendKey(const ui::Form& form, int key, Qt::KeyboardModifiers modifiers, const QString& text) {
@@ -254,8 +259,11 @@ void QtHand::clickItem(ui::Form& form, ui::VerticalMenu& menu, int group, int it
 }
 
 void QtHand::clickRow(ui::Form& form, ui::DataGrid& grid, int row) {
-    auto& view = widgetOf<QAbstractItemView>(form, grid);
-    clickAt(*view.viewport(), pointOf(view, view.model()->index(row - 1, 0)));
+    auto& view = widgetOf<QTableView>(form, grid);
+    int column = 0;
+    while (column + 1 < view.model()->columnCount() && view.isColumnHidden(column))
+        ++column;
+    clickAt(*view.viewport(), pointOf(view, view.model()->index(row - 1, column)));
 }
 
 void QtHand::clickPage(ui::Form& form, ui::TabStrip& tabs, int page) {

@@ -18,6 +18,9 @@ LinePeer::LinePeer(FormPeer& form, ui::Control& control)
     widget()->setProperty("role", "rule");
 }
 
+HiddenPeer::HiddenPeer(FormPeer& form, ui::Control& control)
+    : ControlPeer(form, control, new QWidget(&form.window())) {}
+
 SkinPeer::SkinPeer(FormPeer& form, ui::Control& control)
     : ControlPeer(form, control, new QWidget(&form.window())) {
     mirror(ui::Property::Picture);

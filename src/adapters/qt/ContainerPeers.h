@@ -18,6 +18,12 @@ public:
     LinePeer(FormPeer& form, ui::Control& control);
 };
 
+/// A control that has nothing to see.
+class HiddenPeer final : public ControlPeer {
+public:
+    HiddenPeer(FormPeer& form, ui::Control& control);
+};
+
 /// Nothing to see: has the window dressed in the skin's style file.
 class SkinPeer final : public ControlPeer {
 public:

@@ -20,6 +20,7 @@ struct Field {
 
     /// A box for many lines takes a row of its own.
     [[nodiscard]] bool isWide() const;
+    bool operator==(const Field&) const = default;
 };
 
 /// The controls of one container, sorted by the part that they play in a layout.

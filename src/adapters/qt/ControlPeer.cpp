@@ -9,13 +9,6 @@
 
 namespace quillmere::qt {
 
-namespace {
-
-/// Frames that are out of use stand far to the left of the screen.
-constexpr int offScreenTwips = -5000;
-
-} // namespace
-
 ControlPeer::ControlPeer(FormPeer& form, ui::Control& control, QWidget* widget)
     : QObject(widget), form_(form), control_(&control), widget_(widget) {
     widget->setObjectName(toQt(control.name()));
@@ -41,8 +34,7 @@ void ControlPeer::place() {
 
 bool ControlPeer::wantsToShow() const {
     for (const ui::Control* each = control_; each != nullptr; each = each->Container()) {
-        if (!each->Visible()) return false;
-        if (each->kind() == ui::Kind::Frame && each->geometry().left < offScreenTwips) return false;
+        if (!each->Visible() || each->isPutAway()) return false;
     }
     return true;
 }

@@ -86,10 +86,12 @@ private:
         row->setSpacing(24);
         for (std::size_t i = 0; i < group.images.size(); ++i) {
             auto* picture = new QVBoxLayout;
+            picture->setSpacing(8);
             group.images[i]->widget()->setMinimumSize(192, 256);
             picture->addWidget(group.images[i]->widget(), 1);
             if (i < group.notes.size()) {
                 group.notes[i]->label().setAlignment(Qt::AlignCenter);
+                group.notes[i]->label().setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
                 picture->addWidget(group.notes[i]->widget());
             }
             row->addLayout(picture, 1);

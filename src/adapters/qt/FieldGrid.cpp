@@ -1,5 +1,6 @@
 #include "adapters/qt/FieldGrid.h"
 
+#include "adapters/qt/CaptionWidth.h"
 #include "adapters/qt/LabelPeer.h"
 #include "adapters/qt/Style.h"
 
@@ -8,8 +9,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QResizeEvent>
+#include <QTimer>
 
 #include <algorithm>
+#include <iterator>
+#include <numeric>
 
 namespace quillmere::qt {
 
@@ -17,12 +21,14 @@ namespace {
 
 constexpr int twoColumnsFrom = 560;
 constexpr int threeColumnsFrom = 860;
-constexpr int widestCaption = 150;
 constexpr int narrowestEditor = 120;
+/// What a box should have before a long caption may stand on one line.
+constexpr int comfortableEditor = 160;
 constexpr int memoHeight = 84;
 constexpr int cornerRows = 5;
 constexpr int columnGap = 18;
 constexpr int sideMargin = 20;
+constexpr int spacing = 8;
 /// Columns of the layout that one column of fields takes: caption, editor, unit, gap.
 constexpr int perColumn = 4;
 
@@ -39,10 +45,16 @@ void evenOut(QWidget& editor) {
     keepPlace(editor);
 }
 
-int boldWidth(const QLabel& label) {
-    QFont font = label.font();
-    font.setBold(true);
-    return QFontMetrics(font).horizontalAdvance(label.text()) + 2;
+/// Whether every second field has the same caption: a date with each amount, for example.
+bool comeInPairs(const std::vector<Field>& fields) {
+    const auto captionOf = [&](std::size_t i) {
+        return fields[i].caption == nullptr ? QString() : fields[i].caption->label().text();
+    };
+    if (fields.size() < 4 || fields.size() % 2 != 0 || captionOf(0) == captionOf(1)) return false;
+    for (std::size_t i = 3; i < fields.size(); i += 2) {
+        if (captionOf(i) != captionOf(1)) return false;
+    }
+    return true;
 }
 
 } // namespace
@@ -55,8 +67,8 @@ public:
         if (corner && columns == 1) row_ = 1;
     }
 
-    [[nodiscard]] std::pair<int, int> next() {
-        const std::pair<int, int> place{row_, column_};
+    [[nodiscard]] Place next() {
+        const Place place{row_, column_};
         if (++column_ >= columnsIn(row_)) newRow();
         return place;
     }
@@ -69,8 +81,6 @@ public:
         row_ += count;
         return first;
     }
-
-    [[nodiscard]] int rowsUsed() const { return std::max(cornerRows_, column_ == 0 ? row_ : row_ + 1); }
 
 private:
     [[nodiscard]] int columnsIn(int row) const {
@@ -88,11 +98,42 @@ private:
     int column_ = 0;
 };
 
-FieldGrid::FieldGrid(const std::vector<Field>& fields) : fields_(fields) {
+FieldGrid::FieldGrid(const std::vector<Field>& fields) : all_(fields) {
     setProperty("role", "fields");
-    for (const Field& field : fields_)
+    for (const Field& field : all_) {
         prepare(field);
-    arrange(1);
+        field.editor->widget()->installEventFilter(this);
+    }
+    findVisible();
+    arrange({1, true});
+}
+
+std::vector<Field> FieldGrid::visibleFields() const {
+    std::vector<Field> visible;
+    std::ranges::copy_if(all_, std::back_inserter(visible), [](const Field& field) {
+        return field.editor->control() != nullptr && field.editor->control()->Visible();
+    });
+    return visible;
+}
+
+void FieldGrid::findVisible() {
+    fields_ = visibleFields();
+    const auto narrow = std::ranges::count_if(fields_, [](const Field& field) { return !field.isWide(); });
+    // Two rows of two look better than three fields and one.
+    evenColumns_ = narrow == 2 || narrow == 4 || comeInPairs(fields_) ? 2 : mostColumns_;
+}
+
+bool FieldGrid::eventFilter(QObject* /*watched*/, QEvent* event) {
+    const bool shows = event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent;
+    if (!shows || scheduled_ || visibleFields() == fields_) return false;
+    scheduled_ = true;
+    // The field moves into its gap when its own event is over.
+    QTimer::singleShot(0, this, [this] {
+        scheduled_ = false;
+        findVisible();
+        arrange(shapeFor(width()));
+    });
+    return false;
 }
 
 void FieldGrid::prepare(const Field& field) {
@@ -119,12 +160,13 @@ void FieldGrid::prepare(const Field& field) {
         caption.setAlignment(Qt::AlignLeft | Qt::AlignBottom);
         return;
     }
-    // Room for the bold form, so that nothing moves when a caption turns bold.
-    const int width = boldWidth(caption);
     caption.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    caption.setWordWrap(width > widestCaption);
-    caption.setMinimumWidth(std::min(width, widestCaption));
-    captionWidth_ = std::max(captionWidth_, std::min(width, widestCaption));
+    captionWidth_ = std::max(captionWidth_, captionWidth(caption, true));
+}
+
+int FieldGrid::captionWidth(const QLabel& caption, bool wraps) {
+    const int width = boldWidth(caption);
+    return wraps && width > widestCaption ? balancedWidth(caption) : width;
 }
 
 void FieldGrid::setCorner(QLabel* caption, QWidget* corner) {
@@ -135,10 +177,10 @@ void FieldGrid::setCorner(QLabel* caption, QWidget* corner) {
         caption->setFixedHeight(style::fieldHeight);
         caption->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }
-    arrange(std::max(1, columns_));
+    arrange(shape_);
 }
 
-bool FieldGrid::hasWideFields() const { return std::ranges::any_of(fields_, &Field::isWide); }
+bool FieldGrid::hasWideFields() const { return std::ranges::any_of(all_, &Field::isWide); }
 
 QSize FieldGrid::minimumSizeHint() const {
     constexpr int spacings = 24;
@@ -149,97 +191,104 @@ QSize FieldGrid::minimumSizeHint() const {
 int FieldGrid::columnsFor(int width) const {
     const int byWidth = width >= threeColumnsFrom ? 3 : width >= twoColumnsFrom ? 2 : 1;
     const int fitting = std::max(1, width / (captionWidth_ + narrowestEditor + unitWidth_ + columnGap + 16));
-    return std::min({byWidth, fitting, mostColumns_});
+    return std::min({byWidth, fitting, mostColumns_, evenColumns_});
+}
+
+FieldGrid::Shape FieldGrid::shapeFor(int width) const {
+    const int columns = columnsFor(width);
+    const std::vector<int> captions = captionWidths({columns, false}, placesIn(columns));
+    const int others =
+        2 * sideMargin + (columns - 1) * columnGap + columns * (unitWidth_ + perColumn * spacing);
+    const int room = width - others - std::accumulate(captions.begin(), captions.end(), 0);
+    return {columns, room < columns * comfortableEditor};
 }
 
 void FieldGrid::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    const int columns = columnsFor(width());
-    if (columns != columns_) arrange(columns);
+    const Shape shape = shapeFor(width());
+    if (shape != shape_) arrange(shape);
 }
 
-void FieldGrid::placeField(QGridLayout& grid, const Field& field, int row, int column) {
-    const int first = column * perColumn;
-    if (field.caption != nullptr) grid.addWidget(field.caption->widget(), row, first);
+void FieldGrid::placeField(QGridLayout& grid, const Field& field, const Place& place) {
+    const int first = place.column * perColumn;
+    if (field.isWide()) {
+        const int all = shape_.columns * perColumn - 1;
+        if (field.caption != nullptr) grid.addWidget(field.caption->widget(), place.row, 0, 1, all);
+        grid.addWidget(field.editor->widget(), place.row + 1, 0, 1, all);
+        grid.setRowStretch(place.row + 1, 1);
+        return;
+    }
+    grid.setRowMinimumHeight(place.row, style::fieldHeight);
+    if (field.caption != nullptr) {
+        QLabel& caption = field.caption->label();
+        const bool wraps = shape_.wraps && boldWidth(caption) > widestCaption;
+        const int column = grid.columnMinimumWidth(first);
+        caption.setWordWrap(wraps);
+        caption.setContentsMargins(wraps ? column - captionWidth(caption, true) : 0, 0, 0, 0);
+        // A label that wraps would like to be wider than it needs to be.
+        caption.setMaximumWidth(wraps ? column : QWIDGETSIZE_MAX);
+        grid.addWidget(&caption, place.row, first);
+    }
     const int span = field.unit == nullptr ? 2 : 1;
-    grid.addWidget(field.editor->widget(), row, first + 1, 1, span);
-    if (field.unit != nullptr) grid.addWidget(field.unit->widget(), row, first + 2);
+    grid.addWidget(field.editor->widget(), place.row, first + 1, 1, span);
+    if (field.unit != nullptr) grid.addWidget(field.unit->widget(), place.row, first + 2);
 }
 
 void FieldGrid::placeCorner(QGridLayout& grid) {
     if (corner_ == nullptr) return;
-    const int first = (columns_ - 1) * perColumn;
-    const int rows = columns_ == 1 ? 1 : cornerRows;
+    const int first = (shape_.columns - 1) * perColumn;
+    const int rows = shape_.columns == 1 ? 1 : cornerRows;
     if (cornerCaption_ != nullptr) grid.addWidget(cornerCaption_, 0, first, rows, 1, Qt::AlignTop);
     grid.addWidget(corner_, 0, first + 1, rows, 2, Qt::AlignTop);
 }
 
-void FieldGrid::arrange(int columns) {
-    columns_ = columns;
+std::vector<int> FieldGrid::captionWidths(const Shape& shape, const std::vector<Place>& places) const {
+    std::vector<int> widths(static_cast<std::size_t>(shape.columns), 0);
+    if (cornerCaption_ != nullptr) widths.back() = boldWidth(*cornerCaption_);
+    for (std::size_t i = 0; i < fields_.size(); ++i) {
+        if (fields_[i].isWide() || fields_[i].caption == nullptr) continue;
+        int& widest = widths[static_cast<std::size_t>(places[i].column)];
+        widest = std::max(widest, captionWidth(fields_[i].caption->label(), shape.wraps));
+    }
+    return widths;
+}
+
+std::vector<FieldGrid::Place> FieldGrid::placesIn(int columns) const {
+    Slots free(columns, corner_ != nullptr);
+    std::vector<Place> places;
+    for (const Field& field : fields_)
+        places.push_back(field.isWide() ? Place{free.wholeRows(2), 0} : free.next());
+    return places;
+}
+
+void FieldGrid::setColumns(QGridLayout& grid, const std::vector<Place>& places) {
+    const std::vector<int> captions = captionWidths(shape_, places);
+    for (int column = 0; column < shape_.columns; ++column) {
+        const int first = column * perColumn;
+        grid.setColumnMinimumWidth(first, captions[static_cast<std::size_t>(column)]);
+        grid.setColumnStretch(first + 1, 1);
+        // Equal columns, whether or not a unit stands in this one.
+        grid.setColumnMinimumWidth(first + 2, unitWidth_);
+        if (column + 1 < shape_.columns) grid.setColumnMinimumWidth(first + 3, columnGap);
+    }
+}
+
+void FieldGrid::arrange(const Shape& shape) {
+    shape_ = shape;
     // A fresh layout, since rows and columns keep stretches and widths of the last arrangement.
     delete layout();
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(sideMargin, 14, sideMargin, 14);
-    grid->setHorizontalSpacing(8);
+    grid->setHorizontalSpacing(spacing);
     grid->setVerticalSpacing(7);
-    const int all = columns * perColumn - 1;
-    for (int column = 0; column < columns; ++column) {
-        grid->setColumnMinimumWidth(column * perColumn, captionWidth_);
-        grid->setColumnStretch(column * perColumn + 1, 1);
-        // Equal columns, whether or not a unit stands in this one.
-        grid->setColumnMinimumWidth(column * perColumn + 2, unitWidth_);
-        if (column + 1 < columns) grid->setColumnMinimumWidth(column * perColumn + 3, columnGap);
-    }
-    Slots places(columns, corner_ != nullptr);
+    const std::vector<Place> places = placesIn(shape.columns);
+    setColumns(*grid, places);
     placeCorner(*grid);
-    for (const Field& field : fields_) {
-        if (!field.isWide()) {
-            const auto [row, column] = places.next();
-            grid->setRowMinimumHeight(row, style::fieldHeight);
-            placeField(*grid, field, row, column);
-            continue;
-        }
-        const int row = places.wholeRows(2);
-        if (field.caption != nullptr) grid->addWidget(field.caption->widget(), row, 0, 1, all);
-        grid->addWidget(field.editor->widget(), row + 1, 0, 1, all);
-        grid->setRowStretch(row + 1, 1);
-    }
-    if (!hasWideFields()) grid->setRowStretch(places.rowsUsed(), 1);
+    for (std::size_t i = 0; i < fields_.size(); ++i)
+        placeField(*grid, fields_[i], places[i]);
+    // The last row takes what is left over.
+    if (!hasWideFields()) grid->setRowStretch(grid->rowCount(), 1);
     updateGeometry();
-}
-
-FieldScroll::FieldScroll(FieldGrid* fields) {
-    setWidget(fields);
-    setWidgetResizable(true);
-    setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    viewport()->setAutoFillBackground(false);
-    fields->setAutoFillBackground(false);
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-}
-
-QSize FieldScroll::sizeHint() const {
-    const QWidget& fields = *widget();
-    // Captions that run over two lines need a height that depends on the width.
-    const bool known = fields.hasHeightForWidth() && isVisible();
-    return {600, known ? fields.heightForWidth(viewport()->width()) : fields.sizeHint().height()};
-}
-
-QSize FieldScroll::minimumSizeHint() const {
-    constexpr QSize fewRows(200, 96);
-    return fewRows.boundedTo(sizeHint());
-}
-
-void FieldScroll::resizeEvent(QResizeEvent* event) {
-    QScrollArea::resizeEvent(event);
-    if (event->oldSize().width() != event->size().width()) updateGeometry();
-}
-
-bool FieldScroll::eventFilter(QObject* watched, QEvent* event) {
-    const bool handled = QScrollArea::eventFilter(watched, event);
-    if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
-    return handled;
 }
 
 } // namespace quillmere::qt

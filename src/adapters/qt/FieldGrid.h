@@ -2,7 +2,6 @@
 
 #include "adapters/qt/ControlGroup.h"
 
-#include <QScrollArea>
 #include <QWidget>
 
 #include <vector>
@@ -29,37 +28,50 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     class Slots;
+    struct Place {
+        int row;
+        int column;
+    };
+    /// How the fields stand at a width.
+    struct Shape {
+        int columns = 1;
+        /// Long captions take two lines, which leaves more to the boxes.
+        bool wraps = true;
+        bool operator==(const Shape&) const = default;
+    };
 
     void prepare(const Field& field);
+    [[nodiscard]] std::vector<Field> visibleFields() const;
+    void findVisible();
     [[nodiscard]] int columnsFor(int width) const;
-    void arrange(int columns);
+    [[nodiscard]] Shape shapeFor(int width) const;
+    /// A place for each field, in their order.
+    [[nodiscard]] std::vector<Place> placesIn(int columns) const;
+    /// What the widest caption of each column needs.
+    [[nodiscard]] std::vector<int> captionWidths(const Shape& shape, const std::vector<Place>& places) const;
+    void arrange(const Shape& shape);
     void placeCorner(QGridLayout& grid);
-    void placeField(QGridLayout& grid, const Field& field, int row, int column);
+    /// Gives each column the width of its own captions; the boxes of all columns are equally wide.
+    void setColumns(QGridLayout& grid, const std::vector<Place>& places);
+    void placeField(QGridLayout& grid, const Field& field, const Place& place);
+    [[nodiscard]] static int captionWidth(const QLabel& caption, bool wraps);
 
+    std::vector<Field> all_;
+    /// Those that show; a hidden one leaves no gap.
     std::vector<Field> fields_;
     QLabel* cornerCaption_ = nullptr;
     QWidget* corner_ = nullptr;
     int captionWidth_ = 0;
     int unitWidth_ = 0;
     int mostColumns_ = 3;
-    int columns_ = 0;
-};
-
-/// Scrolls a grid of fields, and is as high as they are where there is room.
-class FieldScroll final : public QScrollArea {
-public:
-    explicit FieldScroll(FieldGrid* fields);
-
-    [[nodiscard]] QSize sizeHint() const override;
-    /// A few rows, where there are that many.
-    [[nodiscard]] QSize minimumSizeHint() const override;
-
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    /// As many as make even rows.
+    int evenColumns_ = 3;
+    bool scheduled_ = false;
+    Shape shape_;
 };
 
 } // namespace quillmere::qt

@@ -2,6 +2,7 @@
 
 #include "adapters/qt/FormPeer.h"
 #include "adapters/qt/Guard.h"
+#include "adapters/qt/Twips.h"
 
 #include "platform/ui/Desktop.h"
 
@@ -14,7 +15,6 @@ namespace quillmere::qt {
 
 namespace {
 
-constexpr int twipsPerPixel = 15;
 /// Beyond this a form of fields only gets emptier.
 constexpr QSize largestWindow(1360, 860);
 constexpr QSize frameAllowance(24, 56);
@@ -37,10 +37,18 @@ QSize FormWindow::preferredSize() const {
     return design.expandedTo(layout()->sizeHint()).expandedTo(smallestDialog).boundedTo(available);
 }
 
+QRect FormWindow::placeWanted() const {
+    const ui::Rect& designed = peer_.form().geometry();
+    if (designed.left != 0 || designed.top != 0) {
+        return {designed.left / twipsPerPixel, designed.top / twipsPerPixel, designed.width / twipsPerPixel,
+                designed.height / twipsPerPixel};
+    }
+    return parentWidget() != nullptr ? parentWidget()->window()->geometry() : screen()->availableGeometry();
+}
+
 void FormWindow::open() {
     resize(preferredSize());
-    const QRect around =
-        parentWidget() != nullptr ? parentWidget()->window()->geometry() : screen()->availableGeometry();
+    const QRect around = placeWanted();
     const QRect area = screen()->availableGeometry();
     QPoint corner = around.center() - rect().center();
     corner.setX(qBound(area.left(), corner.x(), qMax(area.left(), area.right() - width())));

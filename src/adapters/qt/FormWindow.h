@@ -22,6 +22,9 @@ protected:
 
 private:
     [[nodiscard]] QSize preferredSize() const;
+    /// What the window stands in the middle of: the place that the form has taken on the screen, else
+    /// the window below.
+    [[nodiscard]] QRect placeWanted() const;
 
     FormPeer& peer_;
     bool opened_ = false;

@@ -21,10 +21,12 @@ protected:
 private:
     [[nodiscard]] QTableView& table() const;
     void showColumns();
+    void setWidths();
     void showCurrentRow();
     [[nodiscard]] int rowsOnPage() const;
 
     GridModel* model_;
+    bool drawnByPerson_ = false;
 };
 
 } // namespace quillmere::qt

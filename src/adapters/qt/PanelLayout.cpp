@@ -2,6 +2,7 @@
 
 #include "adapters/qt/ControlGroup.h"
 #include "adapters/qt/FieldGrid.h"
+#include "adapters/qt/FieldScroll.h"
 #include "adapters/qt/FormPeer.h"
 #include "adapters/qt/Icons.h"
 #include "adapters/qt/LabelPeer.h"
@@ -23,11 +24,31 @@ namespace quillmere::qt {
 namespace {
 
 constexpr int helpHeight = 32;
+/// The photo and its button, whatever that says.
+constexpr int photoWidth = 212;
 
 /// Frames of the old drawing that only framed the help and the legend; both have places of their own.
 bool isDrawnFrame(const ui::Control* control) {
     return control != nullptr && (control->name() == "Frm1" || control->name() == "Frm2");
 }
+
+/// The sign before the help text, which goes with the text.
+class HelpSign final : public QLabel {
+public:
+    HelpSign(QLabel& help, QWidget* parent) : QLabel(parent) {
+        setPixmap(icons::icon(icons::Glyph::Information, style::mutedText).pixmap(16, 16));
+        help.installEventFilter(this);
+        // Shown before it has a place, it would be a window of its own in front of all others.
+        if (help.text().isEmpty()) hide();
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        // The label's looks tell when it turns blank.
+        if (event->type() == QEvent::DynamicPropertyChange)
+            setVisible(!static_cast<const QLabel*>(watched)->text().isEmpty());
+        return false;
+    }
+};
 
 class PanelBuilder {
 public:
@@ -51,8 +72,11 @@ public:
         if (!group_.grids.empty() || !buttons.empty()) addGridCard(*column_, group_.grids, buttons);
         for (ControlPeer* frame : group_.frames)
             addFrame(*frame);
-        // Takes what is left where nothing with a stretch of its own shows.
-        column_->addSpacerItem(new QSpacerItem(0, 0, QSizePolicy::Minimum, QSizePolicy::Expanding));
+        // Takes what is left where nothing with a stretch of its own shows, and next to nothing else.
+        constexpr int overwhelming = 1000;
+        for (int i = 0; i < column_->count(); ++i)
+            column_->setStretch(i, column_->stretch(i) * overwhelming);
+        column_->addStretch(1);
         placeWithin(group_);
     }
 
@@ -101,6 +125,7 @@ private:
         row->addWidget(group_.images.front()->widget());
         if (ControlPeer* button = photoButton(); button != nullptr) {
             row->addWidget(button->widget(), 0, Qt::AlignBottom);
+            picture->setMinimumWidth(photoWidth);
         }
         row->addStretch(1);
         QLabel* caption = nullptr;
@@ -128,9 +153,10 @@ private:
             }
         }
         addHelp(*inside);
-        // Boxes for long texts share the room that is left with the lists below.
+        // Boxes for long texts share the room that is left with the lists below. A largest height would
+        // not follow the width, as the heights of title and captions do.
         const bool wide = fields->hasWideFields();
-        card->setSizePolicy(QSizePolicy::Preferred, wide ? QSizePolicy::Expanding : QSizePolicy::Maximum);
+        card->setSizePolicy(QSizePolicy::Preferred, wide ? QSizePolicy::Expanding : QSizePolicy::Preferred);
         column_->addWidget(card, wide ? 2 : 0);
     }
 
@@ -143,10 +169,8 @@ private:
         auto* row = new QHBoxLayout(bar);
         row->setContentsMargins(20, 0, 20, 0);
         row->setSpacing(8);
-        auto* sign = new QLabel;
-        sign->setPixmap(icons::icon(icons::Glyph::Information, style::mutedText).pixmap(16, 16));
-        row->addWidget(sign);
         if (help != nullptr) {
+            row->addWidget(new HelpSign(help->label(), bar));
             // The tail of a long help text must not widen the panel.
             help->label().setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
             row->addWidget(help->widget(), 1);

@@ -53,6 +53,8 @@ ControlPeer& makePeer(FormPeer& form, ui::Control& control) {
         return *new LinePeer(form, control);
     case ui::Kind::Skin:
         return *new SkinPeer(form, control);
+    case ui::Kind::CommonDialog:
+        return *new HiddenPeer(form, control);
     case ui::Kind::Frame:
     case ui::Kind::Form:
         break;

@@ -6,8 +6,12 @@
 #include "adapters/qt/Guard.h"
 #include "adapters/qt/MessageBoxDialog.h"
 #include "adapters/qt/QtText.h"
+#include "adapters/qt/Twips.h"
 
 #include <QApplication>
+#include <QBuffer>
+#include <QImageReader>
+#include <QScreen>
 #include <QTimer>
 
 namespace quillmere::qt {
@@ -68,6 +72,23 @@ std::string QtDesktop::openFile(const ui::FileDialog& dialog) {
 void QtDesktop::beep() {
     QApplication::beep();
     if (companion_ != nullptr) companion_->beepHeard();
+}
+
+ui::Rect QtDesktop::screen() const {
+    const QWidget* window = parentForNext();
+    const QScreen* shown = window != nullptr ? window->screen() : QApplication::primaryScreen();
+    const QRect area = shown->availableGeometry();
+    return {area.left() * twipsPerPixel, area.top() * twipsPerPixel, area.width() * twipsPerPixel,
+            area.height() * twipsPerPixel};
+}
+
+bool QtDesktop::canDecode(std::string_view jpeg) const {
+    QByteArray bytes = QByteArray::fromRawData(jpeg.data(), static_cast<qsizetype>(jpeg.size()));
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer, "jpeg");
+    // All of the file is read however small the picture, and a small one costs the least.
+    reader.setScaledSize(QSize(1, 1));
+    return !reader.read().isNull();
 }
 
 void QtDesktop::runModal(ui::Form& form) {

@@ -20,12 +20,14 @@ public:
     ui::Answer msgBox(const ui::MessageBox& box) override;
     std::string openFile(const ui::FileDialog& dialog) override;
     void beep() override;
+    ui::Rect screen() const override;
 
     /// The window in front, a message box before the form below it; none when nothing is open.
     [[nodiscard]] QWidget* frontWindow() const;
 
 protected:
     void runModal(ui::Form& form) override;
+    bool canDecode(std::string_view jpeg) const override;
 
 private:
     class InFront;

@@ -115,8 +115,9 @@ bool TextEntry::mousePressed(QMouseEvent& event, QWidget& target) {
     const bool twice = event.type() == QEvent::MouseButtonDblClick && event.button() == Qt::LeftButton;
     if (target.inherits("QToolButton")) return refusesFocus();
     if (!twice) return !form().click(*control(), static_cast<int>(event.button()));
-    const bool reached = form().doubleClick(*control());
-    return !reached || control() == nullptr || box().Locked();
+    form().doubleClick(*control());
+    // The word has been selected already; the editor would take another one.
+    return true;
 }
 
 void TextEntry::mirror(ui::Property property) {

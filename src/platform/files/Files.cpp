@@ -1,9 +1,12 @@
 #include "platform/files/Files.h"
 
 #include "platform/Error.h"
+#include "platform/files/FileSystem.h"
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <system_error>
 
 namespace quillmere::files {
@@ -44,41 +47,73 @@ bool mayBeReplaced(const fs::path& target, const fs::path& source) {
     return fs::is_regular_file(status) && writable && !fs::equivalent(source, target, ignored);
 }
 
+class Machine final : public FileSystem {
+public:
+    bool exists(std::string_view path) override {
+        std::error_code ignored;
+        return fs::is_regular_file(pathOf(path), ignored);
+    }
+
+    std::uint64_t size(std::string_view path) override {
+        const fs::path file = pathOf(path);
+        requireFile(file);
+        std::error_code error;
+        const std::uint64_t bytes = fs::file_size(file, error);
+        raiseOn(error);
+        return bytes;
+    }
+
+    std::string read(std::string_view path) override {
+        const fs::path file = pathOf(path);
+        requireFile(file);
+        std::ifstream stream(file, std::ios::binary);
+        if (!stream) throw Error(Failure::PermissionDenied);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+
+    void removeForced(std::string_view path) override {
+        const fs::path file = pathOf(path);
+        requireFile(file);
+        std::error_code error;
+        // Some systems refuse to delete a read-only file; where they do not, failing here is no loss.
+        fs::permissions(file, fs::perms::owner_write, fs::perm_options::add, error);
+        fs::remove(file, error);
+        raiseOn(error);
+    }
+
+    void copyOver(std::string_view from, std::string_view to) override {
+        const fs::path source = pathOf(from);
+        const fs::path target = pathOf(to);
+        requireFile(source);
+        if (!mayBeReplaced(target, source)) throw Error(Failure::PermissionDenied);
+        std::error_code error;
+        fs::copy_file(source, target, fs::copy_options::overwrite_existing, error);
+        raiseOn(error);
+    }
+};
+
+FileSystem* chosen = nullptr;
+
+FileSystem& inUse() { return chosen == nullptr ? machine() : *chosen; }
+
 } // namespace
 
-bool exists(std::string_view path) {
-    std::error_code ignored;
-    return fs::is_regular_file(pathOf(path), ignored);
+FileSystem& machine() {
+    static Machine own;
+    return own;
 }
 
-std::uint64_t size(std::string_view path) {
-    const fs::path file = pathOf(path);
-    requireFile(file);
-    std::error_code error;
-    const std::uint64_t bytes = fs::file_size(file, error);
-    raiseOn(error);
-    return bytes;
-}
+void use(FileSystem* other) { chosen = other; }
 
-void removeForced(std::string_view path) {
-    const fs::path file = pathOf(path);
-    requireFile(file);
-    std::error_code error;
-    // Some systems refuse to delete a read-only file; where they do not, failing here is no loss.
-    fs::permissions(file, fs::perms::owner_write, fs::perm_options::add, error);
-    fs::remove(file, error);
-    raiseOn(error);
-}
+bool exists(std::string_view path) { return inUse().exists(path); }
 
-void copyOver(std::string_view from, std::string_view to) {
-    const fs::path source = pathOf(from);
-    const fs::path target = pathOf(to);
-    requireFile(source);
-    if (!mayBeReplaced(target, source)) throw Error(Failure::PermissionDenied);
-    std::error_code error;
-    fs::copy_file(source, target, fs::copy_options::overwrite_existing, error);
-    raiseOn(error);
-}
+std::uint64_t size(std::string_view path) { return inUse().size(path); }
+
+std::string read(std::string_view path) { return inUse().read(path); }
+
+void removeForced(std::string_view path) { inUse().removeForced(path); }
+
+void copyOver(std::string_view from, std::string_view to) { inUse().copyOver(from, to); }
 
 std::string native(std::string_view path) {
     std::string result(path);

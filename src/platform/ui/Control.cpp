@@ -10,10 +10,10 @@
 namespace quillmere::ui {
 
 std::string_view nameOf(Kind kind) {
-    static constexpr std::array<std::string_view, 17> names{
+    static constexpr std::array<std::string_view, 18> names{
         "Form",     "Frame",        "Line",     "Label",       "TextBox", "MaskEdBox",
         "CheckBox", "ListBox",      "TreeView", "TabStrip",    "Image",   "CommandButton",
-        "Toolbar",  "VerticalMenu", "DataGrid", "UserControl", "Skin"};
+        "Toolbar",  "VerticalMenu", "DataGrid", "UserControl", "Skin",    "CommonDialog"};
     return names[static_cast<std::size_t>(kind)];
 }
 
@@ -44,6 +44,7 @@ void Control::setGeometry(const Rect& geometry) {
     if (geometry_ == geometry) return;
     geometry_ = geometry;
     notify(Property::Geometry);
+    if (isPutAway() && form() != nullptr) form()->dropFocusFromUnusable();
 }
 
 void Control::setToolTip(std::string text) {
@@ -64,7 +65,7 @@ bool Control::isRemoved() const {
 }
 
 bool Control::isShown() const {
-    if (!visible_ || removed_ || host_ == nullptr) return false;
+    if (!visible_ || removed_ || host_ == nullptr || isPutAway()) return false;
     if (container_ != nullptr) {
         const auto* tabs = dynamic_cast<const TabStrip*>(container_);
         if (tabs != nullptr && tabs->Tab() != page_) return false;
@@ -108,6 +109,7 @@ std::optional<std::string> Control::property(std::string_view name) const {
 void Control::personKeyDown(const KeyStroke& /*stroke*/) {}
 void Control::personCharacter(char32_t /*character*/) {}
 void Control::personClick() { Click.raise(); }
+void Control::personDoubleClick() {}
 void Control::personPaste(std::string_view /*text*/) {}
 void Control::selectAll() {}
 

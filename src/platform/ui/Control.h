@@ -31,6 +31,7 @@ enum class Kind {
     DataGrid,
     UserControl,
     Skin,
+    CommonDialog,
 };
 
 [[nodiscard]] std::string_view nameOf(Kind kind);
@@ -126,6 +127,8 @@ public:
     /// running event ends.
     [[nodiscard]] bool isRemoved() const;
 
+    /// Stands where nothing of it can be seen.
+    [[nodiscard]] virtual bool isPutAway() const { return false; }
     /// Visible and on show, Enabled and usable: with all that it stands in.
     [[nodiscard]] bool isShown() const;
     [[nodiscard]] bool isUsable() const;
@@ -168,6 +171,7 @@ protected:
     virtual void personKeyDown(const KeyStroke& stroke);
     virtual void personCharacter(char32_t character);
     virtual void personClick();
+    virtual void personDoubleClick();
     virtual void personPaste(std::string_view text);
     virtual void selectAll();
     /// Runs when the control leaves its host, before it is destroyed.

@@ -1,6 +1,9 @@
 #include "platform/ui/Desktop.h"
 
 #include "platform/Error.h"
+#include "platform/files/Files.h"
+#include "platform/ui/Image.h"
+#include "platform/ui/Jpeg.h"
 
 namespace quillmere::ui {
 
@@ -23,6 +26,13 @@ void Desktop::showModal(Form& form) {
         throw;
     }
     open_.pop_back();
+}
+
+void Desktop::showPicture(Image& image, const std::string& path) const {
+    const std::string content = files::read(path);
+    // The structure is looked at on every toolkit, so that what is no photo on one is none on another.
+    if (!isJpeg(content) || !canDecode(content)) throw Error(Failure::InvalidPicture);
+    image.setPicture(path);
 }
 
 void Desktop::sendKeys(std::string_view sequence) {

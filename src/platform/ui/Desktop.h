@@ -8,6 +8,8 @@
 
 namespace quillmere::ui {
 
+class Image;
+
 enum class Buttons { Ok, YesNo };
 enum class Icon { None, Information, Warning, Question, Error };
 enum class Answer { Ok, Yes, No };
@@ -46,6 +48,13 @@ public:
 
     virtual void beep() = 0;
 
+    /// The screen that the form in front stands on, in twips.
+    [[nodiscard]] virtual Rect screen() const = 0;
+
+    /// Shows a picture file in an image. Raises FileNotFound, PermissionDenied, and InvalidPicture for
+    /// a file that is no JPEG; the image then keeps what it shows.
+    void showPicture(Image& image, const std::string& path) const;
+
     /// Injects keys into the form in front; they run after the event that is running.
     void sendKeys(std::string_view sequence);
 
@@ -55,6 +64,8 @@ public:
 protected:
     /// Shows the form and works until it is no longer open.
     virtual void runModal(Form& form) = 0;
+    /// Whether the toolkit can make a picture of the bytes of a file with the structure of a JPEG.
+    [[nodiscard]] virtual bool canDecode(std::string_view jpeg) const = 0;
 
 private:
     std::vector<Form*> open_;

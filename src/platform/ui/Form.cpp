@@ -280,7 +280,9 @@ bool Form::doubleClick(Control& target) {
     bool reached = false;
     perform([&] {
         reached = click(target);
-        if (reached && isWithinReach(target)) target.DblClick.raise();
+        if (!reached || !isWithinReach(target)) return;
+        target.DblClick.raise();
+        if (isWithinReach(target)) target.personDoubleClick();
     });
     return reached;
 }

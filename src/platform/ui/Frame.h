@@ -12,6 +12,8 @@ public:
 
     [[nodiscard]] const std::string& Caption() const { return caption_; }
     void setCaption(std::string caption);
+    /// A frame that is out of use stands far to the left of the screen.
+    [[nodiscard]] bool isPutAway() const override { return geometry().left < -5000; }
     [[nodiscard]] std::optional<std::string> property(std::string_view name) const override;
 
 private:

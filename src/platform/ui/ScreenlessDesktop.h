@@ -29,9 +29,13 @@ public:
     Answer msgBox(const MessageBox& box) override { return person_.answer(box); }
     std::string openFile(const FileDialog& dialog) override { return person_.choose(dialog); }
     void beep() override { person_.hearBeep(); }
+    /// Of 1600 by 1000 points.
+    Rect screen() const override { return {0, 0, 24000, 15000}; }
 
 protected:
     void runModal(Form& form) override;
+    /// Nothing is drawn, so the structure is all that counts.
+    bool canDecode(std::string_view /*jpeg*/) const override { return true; }
 
 private:
     ScreenlessPerson& person_;

@@ -14,6 +14,23 @@ constexpr char32_t deleteCharacter = 127;
 
 bool isLineBreak(std::u32string_view all, std::size_t at) { return all.substr(at, 2) == lineBreak; }
 
+/// What a double click takes together.
+enum class Sort { LineBreak, Blank, Mark, Word };
+
+bool isMark(char32_t c) {
+    constexpr std::u32string_view ascii = U"!\"#$%&'()*+,-./:;<=>?@[\\]^`{|}~";
+    const bool wide = (c >= U'\u2010' && c <= U'\u2027') || (c >= U'\u3001' && c <= U'\u3003') ||
+                      (c >= U'\u3008' && c <= U'\u301F') || (c >= U'\uFF01' && c <= U'\uFF0F') ||
+                      (c >= U'\uFF1A' && c <= U'\uFF20');
+    return wide || ascii.find(c) != std::u32string_view::npos;
+}
+
+Sort sortOf(char32_t c) {
+    if (c == U'\r' || c == U'\n') return Sort::LineBreak;
+    if (c == U' ' || c == U'\t' || c == U'\u3000') return Sort::Blank;
+    return isMark(c) ? Sort::Mark : Sort::Word;
+}
+
 /// How many characters before or behind the caret a key goes over: a line break goes as one.
 std::size_t stepBack(std::u32string_view all, std::size_t caret) {
     if (caret > 1 && isLineBreak(all, caret - 2)) return 2;
@@ -153,6 +170,21 @@ void TextBox::personCharacter(char32_t character) {
     } else if (character >= U' ' && character != deleteCharacter) {
         enter(std::u32string_view(&character, 1));
     }
+}
+
+void TextBox::personDoubleClick() {
+    const std::u32string all = text::decode(text_);
+    if (locked_ || all.empty()) return;
+    // Behind the last character a click means that character.
+    const std::size_t at = std::min(selection_.start, all.size() - 1);
+    const Sort sort = sortOf(all[at]);
+    std::size_t first = at;
+    while (first > 0 && sortOf(all[first - 1]) == sort)
+        --first;
+    std::size_t end = at + 1;
+    while (end < all.size() && sortOf(all[end]) == sort)
+        ++end;
+    select({first, end - first, false});
 }
 
 void TextBox::personPaste(std::string_view text) { enter(text::decode(text)); }

@@ -47,6 +47,8 @@ protected:
     void personKeyDown(const KeyStroke& stroke) override;
     void personCharacter(char32_t character) override;
     void personPaste(std::string_view text) override;
+    /// Selects the word at the caret: what stands together without a blank or a mark between.
+    void personDoubleClick() override;
     void selectAll() override;
 
 private:
