@@ -40,6 +40,15 @@ std::string trimmedText(const ui::Control& widget) {
     return text::trim(widget.property("Text").value_or(""));
 }
 
+/// A broken photo must not keep the person's record from being opened: the image keeps what it shows.
+void showPhoto(ui::Control& image, const std::string& path) {
+    try {
+        LoadPersonPhoto(image, path);
+    } catch (const Error&) {
+        return;
+    }
+}
+
 } // namespace
 
 A1ctrlUser::A1ctrlUser(const PanelRow& row, std::string name, PanelWindow& window)
@@ -78,7 +87,7 @@ void A1ctrlUser::setCtrl(const std::shared_ptr<cFieldItems>& items) {
         } else if (isCaptionWidget(widget->name())) {
             fillCaption(*widget, items->Item(fieldKey(widget->name())));
         } else if (row_.fill == FillTemplate::Person && widget->kind() == ui::Kind::Image) {
-            LoadPersonPhoto(*widget, quillmere::photoPath(window_.photoPath(), WhInfo.personID));
+            showPhoto(*widget, quillmere::photoPath(window_.photoPath(), WhInfo.personID));
         }
     }
     WhInfo.IsChange = false;

@@ -2,6 +2,7 @@
 
 #include "platform/ui/CheckBox.h"
 #include "platform/ui/CommandButton.h"
+#include "platform/ui/CommonDialog.h"
 #include "platform/ui/DataGrid.h"
 #include "platform/ui/Frame.h"
 #include "platform/ui/Image.h"
@@ -64,6 +65,9 @@ void buildField(ui::UserControl& panel, const PanelRow& row, const FieldRow& fie
 void buildPhoto(ui::UserControl& panel) {
     panel.add<ui::Image>("imgPerson");
     panel.add<ui::Label>("lblPhoto", "照 片");
+    panel.add<ui::CommandButton>("cmdAddPhoto", "更新照片");
+    // Nothing shows it: the preview dialog has one of its own. Meant so.
+    panel.add<ui::CommonDialog>("dlgSelPic");
 }
 
 } // namespace
