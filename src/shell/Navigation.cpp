@@ -82,7 +82,7 @@ std::string frmPersonWh::panelSuffix(const std::string& key, std::int32_t group)
     const auto row = OpenRecordset("select * from A01 where A00='" + personID + "'");
     if (row->EOF_()) return "G01";
     const std::string type = row->Fields("A0136").toTextOrEmpty();
-    return convert::isNumeric(type) && convert::toLong(type) == gZZType ? "G01" : "A01";
+    return convert::isNumeric(type) && convert::toDouble(type) == gZZType ? "G01" : "A01";
 }
 
 void frmPersonWh::showRecordOrAdd(A1ctrlUser& panel, const std::string& key) {
