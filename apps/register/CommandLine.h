@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QString>
 #include <QStringList>
 
@@ -11,9 +12,17 @@ struct CommandLine {
     QString database;
     /// Where the guided tour leaves its pictures; empty for no tour.
     QString tour;
+    /// Where a picture of each panel is left; empty for none.
+    QString panels;
+    /// Skin file that the panels' window wears; empty for the light one.
+    QString skin;
+    /// Of the panels' window; invalid for as high as each panel needs.
+    QSize size;
     /// Code of the bureau that the register is kept for; empty when it is kept for all of them.
     QString unitCode;
     bool help = false;
+    /// Nobody is before the screen.
+    [[nodiscard]] bool isUnattended() const { return !tour.isEmpty() || !panels.isEmpty(); }
     /// Why the command line is refused; empty when it is not.
     QString complaint;
 };

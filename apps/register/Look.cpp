@@ -54,6 +54,37 @@ QLineEdit:hover { border-color: #94A8C2; }
 QLineEdit:focus { border: 2px solid #2F6FD0; padding: 0 3px; min-height: 26px; }
 QLineEdit QToolButton { padding: 0; background: transparent; }
 
+QComboBox { color: #16243A; background: #FFFFFF; border: 1px solid #BECAD9; border-radius: 4px;
+    padding: 0 26px 0 9px; min-height: 28px; }
+QComboBox:hover { border-color: #94A8C2; }
+QComboBox:focus { border-color: #2F6FD0; }
+QComboBox[active="true"] { color: #1B4A96; background: #E4EEFC; border-color: #2F6FD0; }
+QComboBox::drop-down { border: none; width: 24px; }
+QComboBox::down-arrow { image: none; }
+QComboBox QAbstractItemView { color: #16243A; background: #FFFFFF; border: 1px solid #BECAD9; outline: none;
+    selection-background-color: #E4EEFC; selection-color: #16243A; padding: 4px; }
+QProgressBar { background: transparent; border: none; }
+QProgressBar::chunk { background: #2F6FD0; }
+QLabel[role="notice"] { color: #7A5300; background: #FFF6DD; border-bottom: 1px solid #EAD9A8; padding: 8px 18px; }
+QToolButton[quiet="true"] { color: #2F6FD0; padding: 4px 8px; }
+QToolButton[quietMenu="true"]::menu-indicator { image: none; width: 0; }
+QPushButton[plain="true"] { color: #1B4A96; background: #FFFFFF; border: 1px solid #BECAD9; border-radius: 4px;
+    padding: 0 16px; min-height: 30px; }
+QPushButton[plain="true"]:hover { background: #EDF3FC; border-color: #94A8C2; }
+QPushButton[plain="true"]:pressed { background: #DCE8FA; }
+QPushButton[plain="true"]:focus { border-color: #2F6FD0; }
+QLabel[role="startTitle"] { color: #16243A; font-size: 22px; font-weight: bold; }
+QFrame[role="problem"] { background: #FDF1F0; border: 1px solid #EBC3BF; border-radius: 6px; }
+QLabel[role="problemTitle"] { color: #A82A21; font-weight: bold; }
+QLabel[role="problemText"] { color: #5C3A37; }
+QPushButton[choice="true"] { color: #16243A; background: #FFFFFF; border: 1px solid #D9E1EC; border-radius: 6px;
+    padding: 0 18px; min-height: 58px; text-align: left; font-weight: bold; }
+QPushButton[choice="true"]:hover { background: #F6F9FD; border-color: #94A8C2; }
+QPushButton[choice="true"]:focus { border: 2px solid #2F6FD0; padding: 0 17px; min-height: 56px; }
+QPushButton[choice="true"]:pressed { background: #E4EEFC; }
+QPushButton[choice="true"]:disabled { color: #A3AEBD; }
+QPushButton[plain="true"]:disabled { color: #A3AEBD; }
+
 QTableView { color: #16243A; background: #FFFFFF; border: none; outline: none; gridline-color: #E6ECF4;
     alternate-background-color: #F6F9FD; selection-background-color: #D6E6FB; selection-color: #16243A; }
 QTableView::item { padding: 0 8px; border: none; }
@@ -92,6 +123,10 @@ constexpr std::array drawings{
     "M4 12a8 8 0 1 0 16 0a8 8 0 1 0-16 0M8 12.500l2.800 2.800L16 9.500",
     "M4.500 11a6.500 6.500 0 1 0 13 0a6.500 6.500 0 1 0-13 0M16 16l4.500 4.500",
     "M7 7l10 10M17 7L7 17",
+    "M7 10l5 5l5-5",
+    "M4 12a8 8 0 1 0 16 0a8 8 0 1 0-16 0M12 7.500v4.500l3 2",
+    "M3.500 18.500v-12h6l2 2.500h9v9.500z",
+    "M5 5.500h14v13H5zM5 10h14M5 14.500h14M10 10v8.500",
 };
 
 QPixmap pixmap(Glyph glyph, const QColor& colour, int size) {

@@ -8,7 +8,7 @@ class QWidget;
 /// The host's own look, made to go with the maintenance window, which dresses itself.
 namespace quillmere::host::look {
 
-enum class Glyph { Add, Edit, Plan, Progress, Closing, Search, Clear };
+enum class Glyph { Add, Edit, Plan, Progress, Closing, Search, Clear, Down, Clock, Folder, Sample };
 
 /// Sets base style, type and Qt's own Chinese texts.
 void dress(QApplication& application);

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "register/Maintenance.h"
+#include "register/Memory.h"
 #include "register/RegisterModel.h"
+#include "register/SearchThread.h"
 
 #include <QMainWindow>
 
@@ -9,14 +11,15 @@
 
 class QBoxLayout;
 class QLabel;
-class QLineEdit;
 class QMenu;
-class QPushButton;
 class QStackedWidget;
 class QTableView;
 class QToolButton;
 
 namespace quillmere::host {
+
+class EmptyState;
+class FilterBar;
 
 /// What the host itself is set to.
 struct HostSettings {
@@ -26,6 +29,11 @@ struct HostSettings {
     QString photoPath;
     /// Code of the bureau that the register is kept for; empty for all.
     QString unitCode;
+    /// A connection to the same register, for searches.
+    SearchThread::OpenConnection openForSearch;
+    /// The register can be looked at and not be changed.
+    bool readOnly = false;
+    Memory memory;
 };
 
 /// The list of persons and units, and the ways from it into the maintenance window.
@@ -37,25 +45,49 @@ public:
 private:
     void buildWidgets();
     void buildTopBar(QBoxLayout& column);
+    void buildNotice(QBoxLayout& column);
     void buildCard(QBoxLayout& column);
-    [[nodiscard]] QWidget* buildFilterRow();
-    [[nodiscard]] QWidget* buildEmptyState();
+    void buildTable();
+    void buildFilter();
     void buildStatusBar();
     void buildShortcuts();
     void fillTypeMenu();
+    void fillRecentMenu();
+    void layColumns();
+    void keepColumns();
+    void closeEvent(QCloseEvent* event) override;
 
+    // Ways into the maintenance window.
     void startNewRecord();
     void startOn(Operation operation);
+    void startOnRecent(const RecentRecord& record);
+    void startOn(Kind kind, const Entry& entry, Operation operation);
     void open(const MaintenanceRun& run, const QString& subject);
+    void showSavedNewRecord(Kind kind);
+    void keepRecent(Kind kind, const Entry& entry);
     void chooseNewRecordType(std::int16_t type);
 
-    /// Shows a kind and a search; what was selected stays so where it is still there.
-    void showRecords(Kind kind, const QString& search);
-    void refresh() { showRecords(model_.kind(), model_.search()); }
-    void layColumns();
+    /// Shows what the filter bar asks for, or begins to look for it; what was selected stays so where it is
+    /// still there.
+    void request();
+    void showAll(Kind kind);
+    void hear(const SearchNews& news);
+    void tellSearchFailure(const std::exception_ptr& told);
+    void showFound();
+    void stopSearching();
+    void goToList();
+    void escape();
+    /// Runs what fills the list, and selects in it what was selected. False when it failed, which is told.
+    [[nodiscard]] bool fill(const Query& query, const std::function<void()>& work);
+
     void select(int row);
+    void rememberSelection();
     void follow();
+    [[nodiscard]] QString countText() const;
+    void tellWhyEmpty();
+    void tellNothingFound();
     [[nodiscard]] int currentRow() const;
+    [[nodiscard]] bool isSearching() const { return searches_.isRunning(); }
 
     enum class Outcome { None, Saved, Failure };
     void tell(Outcome outcome, const QString& text);
@@ -69,18 +101,28 @@ private:
     /// The last selection of each kind.
     std::array<std::string, 2> selected_;
 
+    /// The search that runs or ran last: what it looks for, what it has found beyond what is shown, and
+    /// whether its list is on show yet.
+    Query asked_;
+    std::vector<RecordKey> found_;
+    bool shown_ = true;
+    bool stopped_ = false;
+    /// The person wants to go on in the list as soon as it is there.
+    bool goesToList_ = false;
+
     QToolButton* new_ = nullptr;
     QMenu* typeMenu_ = nullptr;
+    QToolButton* recent_ = nullptr;
     std::vector<QToolButton*> operations_;
-    std::array<QPushButton*, 2> kinds_{};
-    QLineEdit* search_ = nullptr;
-    QLabel* count_ = nullptr;
+    FilterBar* filter_ = nullptr;
     QStackedWidget* pages_ = nullptr;
     QTableView* table_ = nullptr;
-    QLabel* emptyTitle_ = nullptr;
-    QLabel* emptyHint_ = nullptr;
+    EmptyState* empty_ = nullptr;
     QLabel* message_ = nullptr;
     QLabel* newRecords_ = nullptr;
+
+    /// The last member: it ends before anything goes that its news touch.
+    SearchThread searches_;
 };
 
 } // namespace quillmere::host

@@ -1,15 +1,16 @@
 // The widgets of the main window and what connects them.
 #include "register/MainWindow.h"
 
+#include "register/EmptyState.h"
+#include "register/FilterBar.h"
 #include "register/Look.h"
+#include "register/RegisterSource.h"
 
 #include <QActionGroup>
-#include <QButtonGroup>
+#include <QCloseEvent>
 #include <QHeaderView>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMenu>
-#include <QPushButton>
 #include <QShortcut>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -17,12 +18,13 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace quillmere::host {
 
 namespace {
 
 constexpr QSize openingSize(1280, 800);
-constexpr QColor hintColour(0x7C, 0x88, 0x99);
 constexpr int rowHeight = 30;
 constexpr int headerHeight = 36;
 
@@ -50,16 +52,11 @@ QToolButton* toolButton(const char* name, const QString& caption, const QIcon& i
     button->setObjectName(QLatin1String(name));
     button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     button->setText(caption);
+    button->setAccessibleName(caption);
     button->setIcon(icon);
     button->setIconSize({18, 18});
     button->setFocusPolicy(Qt::NoFocus);
     return button;
-}
-
-QLabel* label(const char* role) {
-    auto* result = new QLabel;
-    result->setProperty("role", role);
-    return result;
 }
 
 QFrame* frame(const char* role) {
@@ -80,10 +77,12 @@ void MainWindow::buildWidgets() {
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     buildTopBar(*column);
+    if (settings_.readOnly) buildNotice(*column);
     buildCard(*column);
     buildStatusBar();
     buildShortcuts();
     resize(openingSize);
+    restoreGeometry(settings_.memory.geometry());
     table_->setFocus();
 }
 
@@ -101,6 +100,8 @@ void MainWindow::buildTopBar(QBoxLayout& column) {
     new_->setPopupMode(QToolButton::MenuButtonPopup);
     typeMenu_ = new QMenu(new_);
     new_->setMenu(typeMenu_);
+    new_->setAccessibleName(QStringLiteral("新建记录"));
+    new_->setEnabled(!settings_.readOnly);
     connect(new_, &QToolButton::clicked, this, &MainWindow::startNewRecord);
     row->addWidget(new_);
 
@@ -120,7 +121,20 @@ void MainWindow::buildTopBar(QBoxLayout& column) {
         row->addWidget(button);
     }
     row->addStretch(1);
+    recent_ = toolButton("recent", QStringLiteral("最近打开"), look::icon(look::Glyph::Clock));
+    recent_->setToolTip(QStringLiteral("最近打开的人员和单位（Ctrl+H）"));
+    recent_->setPopupMode(QToolButton::InstantPopup);
+    recent_->setProperty("quietMenu", true);
+    recent_->setMenu(new QMenu(recent_));
+    row->addWidget(recent_);
     column.addWidget(bar);
+}
+
+void MainWindow::buildNotice(QBoxLayout& column) {
+    auto* notice = new QLabel(QStringLiteral("这个登记库是只读的：可以查看，不能新建和保存。"));
+    notice->setObjectName(QStringLiteral("notice"));
+    notice->setProperty("role", "notice");
+    column.addWidget(notice);
 }
 
 void MainWindow::buildCard(QBoxLayout& column) {
@@ -128,6 +142,22 @@ void MainWindow::buildCard(QBoxLayout& column) {
     auto* inside = new QVBoxLayout(card);
     inside->setContentsMargins(1, 1, 1, 8);
     inside->setSpacing(0);
+    buildTable();
+    buildFilter();
+    inside->addWidget(filter_);
+    empty_ = new EmptyState;
+    pages_ = new QStackedWidget;
+    pages_->addWidget(table_);
+    pages_->addWidget(empty_);
+    inside->addWidget(pages_, 1);
+
+    auto* around = new QVBoxLayout;
+    around->setContentsMargins(12, 12, 12, 12);
+    around->addWidget(card);
+    column.addLayout(around, 1);
+}
+
+void MainWindow::buildTable() {
     table_ = new QTableView;
     table_->setObjectName(QStringLiteral("list"));
     table_->setModel(&model_);
@@ -143,78 +173,20 @@ void MainWindow::buildCard(QBoxLayout& column) {
     table_->horizontalHeader()->setFixedHeight(headerHeight);
     table_->horizontalHeader()->setHighlightSections(false);
     table_->horizontalHeader()->setMinimumSectionSize(56);
+    table_->horizontalHeader()->setAccessibleName(QStringLiteral("名单的列"));
     connect(table_, &QTableView::activated, this, [this] { startOn(Operation::Maintain); });
-
-    inside->addWidget(buildFilterRow());
-    pages_ = new QStackedWidget;
-    pages_->addWidget(table_);
-    pages_->addWidget(buildEmptyState());
-    inside->addWidget(pages_, 1);
-
-    auto* around = new QVBoxLayout;
-    around->setContentsMargins(12, 12, 12, 12);
-    around->addWidget(card);
-    column.addLayout(around, 1);
 }
 
-QWidget* MainWindow::buildFilterRow() {
-    auto* filter = new QWidget;
-    auto* row = new QHBoxLayout(filter);
-    row->setContentsMargins(18, 13, 18, 13);
-    row->setSpacing(0);
-    auto* group = new QButtonGroup(this);
-    for (const Kind kind : {Kind::Persons, Kind::Units}) {
-        const bool persons = kind == Kind::Persons;
-        auto* segment = new QPushButton(persons ? QStringLiteral("人员") : QStringLiteral("单位"));
-        segment->setObjectName(persons ? QStringLiteral("persons") : QStringLiteral("units"));
-        segment->setProperty("segment", true);
-        segment->setCheckable(true);
-        group->addButton(segment);
-        connect(segment, &QPushButton::clicked, this, [this, kind] { showRecords(kind, model_.search()); });
-        kinds_[static_cast<std::size_t>(kind)] = segment;
-        row->addWidget(segment);
-    }
-    count_ = label("count");
-    count_->setObjectName(QStringLiteral("count"));
-    row->addSpacing(16);
-    row->addWidget(count_);
-    row->addStretch(1);
-
-    search_ = new QLineEdit;
-    search_->setObjectName(QStringLiteral("search"));
-    search_->setFixedWidth(360);
-    search_->addAction(look::icon(look::Glyph::Search, hintColour), QLineEdit::LeadingPosition);
-    QAction* clear =
-        search_->addAction(look::icon(look::Glyph::Clear, hintColour), QLineEdit::TrailingPosition);
-    clear->setToolTip(QStringLiteral("清除（Esc）"));
-    clear->setVisible(false);
-    connect(clear, &QAction::triggered, search_, &QLineEdit::clear);
-    connect(search_, &QLineEdit::textChanged, this, [this, clear](const QString& text) {
-        clear->setVisible(!text.isEmpty());
-        showRecords(model_.kind(), text);
-    });
-    connect(search_, &QLineEdit::returnPressed, table_, [this] { table_->setFocus(); });
-    row->addWidget(search_);
-    return filter;
-}
-
-QWidget* MainWindow::buildEmptyState() {
-    auto* page = new QWidget;
-    auto* column = new QVBoxLayout(page);
-    emptyTitle_ = label("emptyTitle");
-    emptyTitle_->setObjectName(QStringLiteral("emptyTitle"));
-    emptyHint_ = label("emptyHint");
-    column->setSpacing(8);
-    column->addStretch(2);
-    column->addWidget(emptyTitle_, 0, Qt::AlignHCenter);
-    column->addWidget(emptyHint_, 0, Qt::AlignHCenter);
-    column->addStretch(3);
-    return page;
+void MainWindow::buildFilter() {
+    filter_ = new FilterBar(list_.sponsorshipTypes(), {.changed = [this] { request(); },
+                                                       .goToList = [this] { goToList(); },
+                                                       .stopped = [this] { stopSearching(); }});
 }
 
 void MainWindow::buildStatusBar() {
     message_ = new QLabel;
     message_->setObjectName(QStringLiteral("message"));
+    message_->setTextFormat(Qt::PlainText);
     newRecords_ = new QLabel;
     auto* file = new QLabel(settings_.file);
     statusBar()->addWidget(message_, 1);
@@ -229,15 +201,40 @@ void MainWindow::buildShortcuts() {
         connect(new QShortcut(keys, this), &QShortcut::activated, this, work);
     };
     on(QKeySequence::New, [this] { startNewRecord(); });
-    on(QKeySequence::Refresh, [this] { refresh(); });
-    on(QKeySequence::Find, [this] {
-        search_->setFocus();
-        search_->selectAll();
+    on(QKeySequence::Refresh, [this] { request(); });
+    on(QKeySequence::Find, [this] { filter_->focusSearch(); });
+    on(Qt::Key_Slash, [this] { filter_->focusSearch(); });
+    on(Qt::Key_Escape, [this] { escape(); });
+    on(Qt::CTRL | Qt::Key_H, [this] {
+        if (recent_->isEnabled()) recent_->showMenu();
     });
-    on(Qt::Key_Escape, [this] {
-        search_->clear();
-        table_->setFocus();
-    });
+}
+
+void MainWindow::layColumns() {
+    const std::vector<Column>& columns = sourceOf(model_.kind()).columns;
+    const QList<int> kept = settings_.memory.columnWidths(model_.kind());
+    const bool usable = std::cmp_equal(kept.size(), columns.size());
+    QHeaderView* header = table_->horizontalHeader();
+    // The name of the project takes what the others leave.
+    const int stretched = static_cast<int>(columns.size()) - 2;
+    for (int i = 0; i < static_cast<int>(columns.size()); ++i) {
+        header->setSectionResizeMode(i, i == stretched ? QHeaderView::Stretch : QHeaderView::Interactive);
+        header->resizeSection(i, usable ? kept[i] : columns[static_cast<std::size_t>(i)].width);
+    }
+}
+
+void MainWindow::keepColumns() {
+    const QHeaderView& header = *table_->horizontalHeader();
+    QList<int> widths;
+    for (int i = 0; i < header.count(); ++i)
+        widths << header.sectionSize(i);
+    settings_.memory.setColumnWidths(model_.kind(), widths);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    settings_.memory.setGeometry(saveGeometry());
+    keepColumns();
+    QMainWindow::closeEvent(event);
 }
 
 void MainWindow::fillTypeMenu() {

@@ -2,6 +2,9 @@
 
 #include "platform/Error.h"
 #include "platform/data/Connection.h"
+#include "register/OpenRegister.h"
+#include "register/PanelShots.h"
+#include "register/StartWindow.h"
 #include "register/Tour.h"
 #include "sample/OutputFile.h"
 
@@ -12,7 +15,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QSettings>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include <cstdlib>
@@ -21,16 +24,31 @@ namespace quillmere::host {
 
 namespace {
 
-constexpr auto lastUsed = "database";
+constexpr auto fileTypes = "登记库 (*.db *.sqlite *.sqlite3);;所有文件 (*)";
 
-QString askForRegister() {
+QString askForFile() {
     return QFileDialog::getOpenFileName(nullptr, QStringLiteral("打开登记库"), QDir::homePath(),
-                                        QStringLiteral("登记库 (*.db *.sqlite *.sqlite3);;所有文件 (*)"));
+                                        QString::fromUtf8(fileTypes));
 }
 
-/// A register that the tour may write into: a copy of the one named, or a sample.
-void makeTourRegister(const CommandLine& line, const QString& path) {
+QString askForPlace() {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return QFileDialog::getSaveFileName(nullptr, QStringLiteral("样例库存放的位置"),
+                                        QDir(documents).filePath(QStringLiteral("样例登记库.db")),
+                                        QString::fromUtf8(fileTypes));
+}
+
+void copyPhotos(const QString& from, const QString& to) {
+    QDir().mkpath(to);
+    const QStringList names = QDir(from).entryList({QStringLiteral("*.jpg")}, QDir::Files);
+    for (const QString& name : names)
+        QFile::copy(QDir(from).filePath(name), QDir(to).filePath(name));
+}
+
+/// A register that may be written into: a copy of the one named, with its photos, or a sample.
+void makeOwnRegister(const CommandLine& line, const QString& path) {
     if (line.database.isEmpty()) return sample::buildFile(path.toStdString(), {}, false);
+    copyPhotos(photosOf(line.database), photosOf(path));
     QString literal = path;
     literal.replace(u'\'', QStringLiteral("''"));
     openSqlite(line.database.toStdString())
@@ -40,45 +58,89 @@ void makeTourRegister(const CommandLine& line, const QString& path) {
 int goOnTour(const CommandLine& line) {
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("register.db"));
-    makeTourRegister(line, path);
+    makeOwnRegister(line, path);
     Tour tour(line.tour);
     qt::ToolkitOptions options;
     options.companion = &tour;
     const qt::Toolkit toolkit(options);
-    const std::unique_ptr<MainWindow> window = openRegister(path, line.unitCode);
+    const std::unique_ptr<MainWindow> window = openRegister(path, line.unitCode, false);
     tour.run(*window);
     return EXIT_SUCCESS;
 }
 
+int shootPanels(const CommandLine& line) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("register.db"));
+    makeOwnRegister(line, path);
+    PanelShots shots({line.panels, line.skin, line.size});
+    qt::ToolkitOptions options;
+    options.companion = &shots;
+    const qt::Toolkit toolkit(options);
+    shots.run(openSqlite(path.toStdString()));
+    return EXIT_SUCCESS;
+}
+
+/// Who receives the person: opens the register in its window or, where there is none to open, stands in
+/// the start window until there is.
+class Reception {
+public:
+    explicit Reception(QString unitCode) : unitCode_(std::move(unitCode)) {}
+
+    void open(const QString& path) {
+        try {
+            window_ = openRegister(path, unitCode_, true);
+        } catch (const std::exception& failure) {
+            welcome();
+            return start_->showProblem(problemWith(path, failure));
+        }
+        Memory::setLastRegister(path);
+        window_->show();
+        // It may be in the middle of telling which register was chosen.
+        if (start_) start_.release()->deleteLater();
+    }
+
+    void welcome() {
+        if (!start_) {
+            start_ = std::make_unique<StartWindow>(
+                StartWindow::Listener{[this](const QString& path) { open(path); }, askForFile, askForPlace});
+        }
+        start_->show();
+    }
+
+    [[nodiscard]] bool hasOpened() const { return window_ != nullptr; }
+
+private:
+    QString unitCode_;
+    std::unique_ptr<MainWindow> window_;
+    std::unique_ptr<StartWindow> start_;
+};
+
 int workInWindow(const CommandLine& line) {
-    const QString path = chooseRegister(line, askForRegister);
-    if (path.isEmpty()) return EXIT_SUCCESS;
     // The maintenance window shows on this toolkit, which must outlive every opening of it.
     const qt::Toolkit toolkit;
-    const std::unique_ptr<MainWindow> window = openRegister(path, line.unitCode);
-    QSettings().setValue(lastUsed, QFileInfo(path).absoluteFilePath());
-    window->show();
-    return QApplication::exec();
+    Reception reception(line.unitCode);
+    const QString path = registerToOpen(line);
+    if (path.isEmpty())
+        reception.welcome();
+    else
+        reception.open(path);
+    // An application that the toolkit made goes on without windows.
+    const bool before = QApplication::quitOnLastWindowClosed();
+    QApplication::setQuitOnLastWindowClosed(true);
+    const int status = QApplication::exec();
+    QApplication::setQuitOnLastWindowClosed(before);
+    return path.isEmpty() || reception.hasOpened() ? status : EXIT_FAILURE;
 }
 
 } // namespace
 
-std::unique_ptr<MainWindow> openRegister(const QString& path, const QString& unitCode) {
-    RegisterList list(openSqlite(path.toStdString()));
-    const QFileInfo file(path);
-    return std::make_unique<MainWindow>(
-        std::move(list),
-        HostSettings{file.fileName(), file.absoluteDir().filePath(QStringLiteral("photos")), unitCode});
-}
-
-QString chooseRegister(const CommandLine& line, const std::function<QString()>& ask) {
-    if (!line.database.isEmpty()) return line.database;
-    const QString last = QSettings().value(lastUsed).toString();
-    return QFileInfo(last).isFile() ? last : ask();
+QString registerToOpen(const CommandLine& line) {
+    return line.database.isEmpty() ? Memory::lastRegister() : line.database;
 }
 
 int work(const CommandLine& line, const TellFailure& tell) {
     try {
+        if (!line.panels.isEmpty()) return shootPanels(line);
         return line.tour.isEmpty() ? workInWindow(line) : goOnTour(line);
     } catch (const Error& error) {
         tell(QStringLiteral("错误 %1：%2")

@@ -1,11 +1,16 @@
 #pragma once
 
+#include "register/RegisterSearch.h"
+
 #include <QString>
 #include <QStringList>
 
 #include <cstdint>
 #include <memory>
+#include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quillmere::data {
@@ -13,18 +18,6 @@ class Connection;
 }
 
 namespace quillmere::host {
-
-/// The two kinds of record that a register keeps.
-enum class Kind { Persons, Units };
-
-/// A column of the list, as the screen shows it.
-struct Column {
-    const char* title;
-    /// Pixels.
-    int width;
-};
-
-[[nodiscard]] const std::vector<Column>& columnsOf(Kind kind);
 
 /// A record of the list.
 struct Entry {
@@ -53,10 +46,14 @@ public:
 
     [[nodiscard]] const std::shared_ptr<data::Connection>& connection() const { return connection_; }
 
-    /// Records whose name or number holds the searched text, the newest first. The number is a person's
-    /// identity card, a unit's identity or the code of its bureau.
-    [[nodiscard]] std::vector<Entry> page(Kind kind, const QString& search, int offset, int limit) const;
-    [[nodiscard]] int count(Kind kind, const QString& search) const;
+    /// All records of a kind, the newest first.
+    [[nodiscard]] std::vector<Entry> page(Kind kind, int offset, int limit) const;
+    [[nodiscard]] int count(Kind kind) const;
+
+    /// What a search has found, in the order of the keys. Records deleted since are left out.
+    [[nodiscard]] std::vector<Entry> entries(Kind kind, std::span<const RecordKey> keys) const;
+    /// The record of that identity, if there is one.
+    [[nodiscard]] std::optional<Entry> find(Kind kind, std::string_view id) const;
 
     [[nodiscard]] std::vector<SponsorshipType> sponsorshipTypes() const;
     /// The type that new records get, 1 when the register has no valid setting.

@@ -1,24 +1,77 @@
 #include "register/RegisterModel.h"
 
 #include "platform/Error.h"
+#include "register/RegisterSource.h"
 
 #include <algorithm>
 #include <iterator>
 
 namespace quillmere::host {
 
-void RegisterModel::show(Kind kind, const QString& search) {
-    const bool again = kind == kind_ && search == search_;
-    const int wanted = again ? std::max(pageSize, rowCount()) : pageSize;
-    const int total = list_.count(kind, search);
-    std::vector<Entry> entries = list_.page(kind, search, 0, wanted);
+namespace {
 
+std::span<const RecordKey> firstOf(const std::vector<RecordKey>& keys, int count) {
+    return std::span(keys).first(std::min(keys.size(), static_cast<std::size_t>(count)));
+}
+
+} // namespace
+
+int RegisterModel::wantedRows(const Query& query) const {
+    return query == query_ ? std::max(pageSize, rowCount()) : pageSize;
+}
+
+void RegisterModel::showAll(Kind kind) {
+    Query query;
+    query.kind = kind;
+    const int total = list_.count(kind);
+    reset(query, {}, list_.page(kind, 0, wantedRows(query)), total);
+}
+
+void RegisterModel::showFound(const Query& query, std::vector<RecordKey> keys) {
+    const std::span<const RecordKey> first = firstOf(keys, wantedRows(query));
+    std::vector<Entry> entries = list_.entries(query.kind, first);
+    const std::size_t gone = first.size() - entries.size();
+    const std::size_t read = first.size();
+    const int total = static_cast<int>(keys.size() - gone);
+    reset(query, std::move(keys), std::move(entries), total);
+    read_ = read;
+}
+
+void RegisterModel::reset(const Query& query, std::vector<RecordKey> keys, std::vector<Entry> entries,
+                          int total) {
     beginResetModel();
-    kind_ = kind;
-    search_ = search;
+    query_ = query;
+    keys_ = std::move(keys);
+    read_ = 0;
     total_ = total;
     entries_ = std::move(entries);
     endResetModel();
+}
+
+void RegisterModel::addFound(const std::vector<RecordKey>& keys) {
+    keys_.insert(keys_.end(), keys.begin(), keys.end());
+    total_ += static_cast<int>(keys.size());
+    // A view asks for more when it is scrolled; the first page it takes as it is.
+    if (rowCount() < pageSize) append(next(pageSize - rowCount()));
+}
+
+std::vector<Entry> RegisterModel::next(int limit) {
+    if (query_.isEverything()) return list_.page(kind(), rowCount(), limit);
+    const std::span<const RecordKey> part = std::span(keys_).subspan(read_);
+    const std::span<const RecordKey> keys =
+        part.first(std::min(part.size(), static_cast<std::size_t>(limit)));
+    std::vector<Entry> entries = list_.entries(kind(), keys);
+    read_ += keys.size();
+    total_ -= static_cast<int>(keys.size() - entries.size());
+    return entries;
+}
+
+void RegisterModel::append(std::vector<Entry> entries) {
+    if (entries.empty()) return;
+    const int first = rowCount();
+    beginInsertRows({}, first, first + static_cast<int>(entries.size()) - 1);
+    std::ranges::move(entries, std::back_inserter(entries_));
+    endInsertRows();
 }
 
 std::optional<int> RegisterModel::rowOf(std::string_view id) const {
@@ -32,7 +85,7 @@ int RegisterModel::rowCount(const QModelIndex& parent) const {
 }
 
 int RegisterModel::columnCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(columnsOf(kind_).size());
+    return parent.isValid() ? 0 : static_cast<int>(sourceOf(kind()).columns.size());
 }
 
 QVariant RegisterModel::data(const QModelIndex& index, int role) const {
@@ -47,7 +100,7 @@ QVariant RegisterModel::headerData(int section, Qt::Orientation orientation, int
     if (orientation != Qt::Horizontal) return {};
     if (role == Qt::TextAlignmentRole) return static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter);
     if (role != Qt::DisplayRole) return {};
-    return QString::fromUtf8(columnsOf(kind_)[static_cast<std::size_t>(section)].title);
+    return QString::fromUtf8(sourceOf(kind()).columns[static_cast<std::size_t>(section)].title);
 }
 
 bool RegisterModel::canFetchMore(const QModelIndex& parent) const {
@@ -56,22 +109,15 @@ bool RegisterModel::canFetchMore(const QModelIndex& parent) const {
 
 void RegisterModel::fetchMore(const QModelIndex& parent) {
     if (!canFetchMore(parent)) return;
-    std::vector<Entry> next;
+    const int before = rowCount();
     try {
-        next = list_.page(kind_, search_, rowCount(), pageSize);
+        append(next(pageSize));
     } catch (const Error& error) {
         // A view calls this in the middle of its painting, where no exception may leave.
         qWarning("quillmere-register: %s", error.what());
     }
-    if (next.empty()) {
-        // Fewer records than were counted: someone else has deleted some.
-        total_ = rowCount();
-        return;
-    }
-    const int first = rowCount();
-    beginInsertRows({}, first, first + static_cast<int>(next.size()) - 1);
-    std::ranges::move(next, std::back_inserter(entries_));
-    endInsertRows();
+    // Fewer records than were counted: someone else has deleted some.
+    if (rowCount() == before) total_ = rowCount();
 }
 
 } // namespace quillmere::host

@@ -9,21 +9,25 @@
 
 namespace quillmere::host {
 
-/// The list as a table. Rows come a page at a time, as a view asks for them, so that a register of any
-/// size opens at once.
+/// The list as a table: all records of a kind, or what a search has found so far. Rows come a page at a
+/// time, as a view asks for them, so that a register of any size opens at once.
 class RegisterModel final : public QAbstractTableModel {
 public:
-    static constexpr int pageSize = 200;
+    static constexpr int pageSize = 100;
 
     explicit RegisterModel(RegisterList list) : list_(std::move(list)) {}
 
-    /// Reads the records of a kind that a search finds. When kind and search stay, as many rows as were
-    /// there before are read again. Raises quillmere::Error and keeps what was shown.
-    void show(Kind kind, const QString& search);
+    /// Shows all records of a kind. Raises quillmere::Error and keeps what was shown.
+    void showAll(Kind kind);
+    /// Shows what a search has found; more may be added. Raises quillmere::Error and keeps what was shown.
+    /// For either: what is shown already is read again, as many rows as were there before.
+    void showFound(const Query& query, std::vector<RecordKey> keys);
+    /// Raises quillmere::Error when more rows are needed to fill a page and cannot be read.
+    void addFound(const std::vector<RecordKey>& keys);
 
-    [[nodiscard]] Kind kind() const { return kind_; }
-    [[nodiscard]] const QString& search() const { return search_; }
-    /// All records that the search finds, those not read yet included.
+    [[nodiscard]] Kind kind() const { return query_.kind; }
+    [[nodiscard]] const Query& query() const { return query_; }
+    /// All records there are to show, those not read yet included.
     [[nodiscard]] int total() const { return total_; }
     [[nodiscard]] const Entry& entry(int row) const { return entries_[static_cast<std::size_t>(row)]; }
     /// Among the rows that have been read.
@@ -38,11 +42,20 @@ public:
     void fetchMore(const QModelIndex& parent) override;
 
 private:
+    /// How many rows are read at first.
+    [[nodiscard]] int wantedRows(const Query& query) const;
+    void reset(const Query& query, std::vector<RecordKey> keys, std::vector<Entry> entries, int total);
+    /// The next rows of the list, at most so many. Moves on past records that are gone.
+    [[nodiscard]] std::vector<Entry> next(int limit);
+    void append(std::vector<Entry> entries);
+
     RegisterList list_;
-    Kind kind_ = Kind::Persons;
-    QString search_;
-    int total_ = 0;
+    Query query_;
     std::vector<Entry> entries_;
+    int total_ = 0;
+    /// Of a search: everything found, and how much of it has been read.
+    std::vector<RecordKey> keys_;
+    std::size_t read_ = 0;
 };
 
 } // namespace quillmere::host

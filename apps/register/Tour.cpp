@@ -81,6 +81,14 @@ void pause() {
     loop.exec();
 }
 
+/// Goes on when the condition holds.
+void waitUntil(const std::function<bool()>& condition, const QString& failure) {
+    constexpr int mostMoments = 200;
+    for (int i = 0; i < mostMoments && !condition(); ++i)
+        pause();
+    require(condition(), failure);
+}
+
 /// A dialog under its title, which else is the window manager's to draw.
 void drawFramed(QPainter& painter, QWidget& dialog, const QRect& place) {
     const QRect title = place.adjusted(0, -titleHeight, 0, -place.height());
@@ -158,9 +166,11 @@ void Tour::search() {
     const QString surname = cell(0, nameColumn).left(1);
     box.setFocus();
     box.setText(surname);
+    waitUntil([&count] { return count.text().startsWith(QStringLiteral("找到")); },
+              QStringLiteral("查找没有结束"));
     require(rowCount() > 0 && count.text() != all, QStringLiteral("查找没有缩小名单"));
-    for (int row = 0; row < rowCount(); ++row)
-        require(cell(row, nameColumn).contains(surname), QStringLiteral("查找到的姓名不对"));
+    // Those whose name begins so come first.
+    require(cell(0, nameColumn).startsWith(surname), QStringLiteral("查找到的姓名不对"));
     takePicture(QStringLiteral("search"));
     box.clear();
     require(count.text() == all, QStringLiteral("清除查找后名单不完整"));
@@ -207,6 +217,7 @@ void Tour::showStudies() {
     // From the next stage on the sets of a person are locked.
     selectRow(rowInStage(QStringLiteral("申报")));
     maintain(QStringLiteral("maintain"), [this](ui::Form& form) {
+        takePicture(QStringLiteral("person"));
         openSet(form, 1, "A02");
         auto& grid = controlOf<ui::DataGrid>(form, "DGItems");
         require(grid.rowCount() > 0, QStringLiteral("这个人员没有学习经历"));

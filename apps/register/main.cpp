@@ -16,10 +16,10 @@ constexpr int usageStatus = 2;
 
 void print(std::ostream& stream, const QString& text) { stream << text.toStdString() << std::flush; }
 
-/// A tour has nobody before the screen who could close a message.
+/// Where nobody is before the screen, no one could close a message.
 void tell(const host::CommandLine& line, const QString& text) {
     print(std::cerr, QStringLiteral("quillmere-register: ") + text + u'\n');
-    if (line.tour.isEmpty()) QMessageBox::critical(nullptr, QStringLiteral("人才登记库"), text);
+    if (!line.isUnattended()) QMessageBox::critical(nullptr, QStringLiteral("人才登记库"), text);
 }
 
 } // namespace

@@ -38,8 +38,22 @@ protected:
     }
 
     [[nodiscard]] QStringList found(Kind kind, const QString& search) {
-        model.show(kind, search);
+        show(kind, search);
         return names();
+    }
+
+    /// Everything, or what a search finds.
+    void show(Kind kind, const QString& text) {
+        Query query;
+        query.kind = kind;
+        query.text = text;
+        if (query.isEverything()) return model.showAll(kind);
+        std::vector<RecordKey> keys;
+        ASSERT_TRUE(search(*connection, query, [&keys](const SearchStep& step) {
+            keys.insert(keys.end(), step.keys.begin(), step.keys.end());
+            return true;
+        }));
+        model.showFound(query, keys);
     }
 
     std::shared_ptr<data::Connection> engine = sqlite::openInMemory();
@@ -60,7 +74,7 @@ TEST_F(RegisterModelTest, ShowsNamesInPlaceOfCodes) {
     engine->execute("insert into A01 (A00,A0199,A0101,A0104,A0106,A0103,A0114,A0136,A0137) values('x',9000,"
                     "'祁望舒','2','1988-04-16','110105198804169960','规划院','07','2026')");
     engine->execute("insert into P01 (A00,P0109,P0123) values('x','古桥保护','02')");
-    model.show(Kind::Persons, QStringLiteral("祁望舒"));
+    show(Kind::Persons, QStringLiteral("祁望舒"));
     ASSERT_EQ(model.rowCount(), 1);
     EXPECT_EQ(model.entry(0).id, "x");
     EXPECT_EQ(model.entry(0).sponsorshipType, 7);
@@ -70,7 +84,7 @@ TEST_F(RegisterModelTest, ShowsNamesInPlaceOfCodes) {
 
 TEST_F(RegisterModelTest, ARecordWithNothingButItsKeyIsShown) {
     engine->execute("insert into A01 (A00,A0199) values('bare',9000)");
-    model.show(Kind::Persons, {});
+    model.showAll(Kind::Persons);
     EXPECT_EQ(model.rowOf("bare"), 0);
     EXPECT_EQ(model.entry(0).sponsorshipType, 1);
     EXPECT_EQ(model.entry(0).cells.join(QString()), QString());
@@ -116,10 +130,9 @@ TEST_F(RegisterModelTest, QuotesAndWildcardsAreSearchedAsTheyAre) {
 TEST_F(RegisterModelTest, AFailingDatabaseLeavesWhatIsShown) {
     const QStringList before = found(Kind::Persons, {});
     connection->failOn("from (select", "磁盘读写错误");
-    EXPECT_EQ(failureOf([&] { model.show(Kind::Units, QStringLiteral("院")); }),
-              number(Failure::StatementFailed));
+    EXPECT_EQ(failureOf([&] { model.showAll(Kind::Units); }), number(Failure::StatementFailed));
     EXPECT_EQ(model.kind(), Kind::Persons);
-    EXPECT_EQ(model.search(), QString());
+    EXPECT_TRUE(model.query().isEverything());
     EXPECT_EQ(names(), before);
 }
 
@@ -158,7 +171,7 @@ class RegisterModelPagesTest : public RegisterModelTest {
 protected:
     static constexpr int persons = 2 * RegisterModel::pageSize + 50;
 
-    RegisterModelPagesTest() : RegisterModelTest(persons, 0) { model.show(Kind::Persons, {}); }
+    RegisterModelPagesTest() : RegisterModelTest(persons, 0) { model.showAll(Kind::Persons); }
 };
 
 TEST_F(RegisterModelPagesTest, RowsComeAPageAtATime) {
@@ -178,9 +191,9 @@ TEST_F(RegisterModelPagesTest, RowsComeAPageAtATime) {
 
 TEST_F(RegisterModelPagesTest, ReadingAgainReadsAsManyRowsAsThereWere) {
     model.fetchMore({});
-    model.show(Kind::Persons, {});
+    model.showAll(Kind::Persons);
     EXPECT_EQ(model.rowCount(), 2 * RegisterModel::pageSize);
-    model.show(Kind::Persons, QStringLiteral("1"));
+    show(Kind::Persons, QStringLiteral("1"));
     EXPECT_LE(model.rowCount(), RegisterModel::pageSize);
 }
 
@@ -189,6 +202,44 @@ TEST_F(RegisterModelPagesTest, RowsDeletedMeanwhileEndTheList) {
     model.fetchMore({});
     EXPECT_EQ(model.rowCount(), RegisterModel::pageSize);
     EXPECT_FALSE(model.canFetchMore({}));
+}
+
+TEST_F(RegisterModelPagesTest, WhatASearchFindsComesAPageAtATimeToo) {
+    show(Kind::Persons, QStringLiteral("9"));
+    const int total = model.total();
+    ASSERT_GT(total, RegisterModel::pageSize);
+    EXPECT_EQ(model.rowCount(), RegisterModel::pageSize);
+    while (model.canFetchMore({}))
+        model.fetchMore({});
+    EXPECT_EQ(model.rowCount(), total);
+    EXPECT_EQ(model.total(), total);
+}
+
+TEST_F(RegisterModelPagesTest, WhatIsFoundLaterFillsTheFirstPageAndIsFetchedBeyond) {
+    Query query;
+    query.text = QStringLiteral("x");
+    model.showFound(query, {1, 2});
+    EXPECT_EQ(model.rowCount(), 2);
+    std::vector<RecordKey> more;
+    for (RecordKey key = 3; key <= RegisterModel::pageSize + 10; ++key)
+        more.push_back(key);
+    model.addFound(more);
+    EXPECT_EQ(model.rowCount(), RegisterModel::pageSize);
+    EXPECT_EQ(model.total(), RegisterModel::pageSize + 10);
+    model.fetchMore({});
+    EXPECT_EQ(model.rowCount(), RegisterModel::pageSize + 10);
+    EXPECT_EQ(model.entry(0).id, cell("select A00 from A01 where rowid=1"));
+    EXPECT_EQ(model.entry(105).id, cell("select A00 from A01 where rowid=106"));
+}
+
+TEST_F(RegisterModelPagesTest, FoundRecordsThatAreGoneAreLeftOut) {
+    engine->execute("delete from A01 where rowid in (2,4)");
+    Query query;
+    query.text = QStringLiteral("x");
+    model.showFound(query, {1, 2, 3, 4, 5});
+    EXPECT_EQ(model.rowCount(), 3);
+    EXPECT_EQ(model.total(), 3);
+    EXPECT_EQ(model.entry(1).id, cell("select A00 from A01 where rowid=3"));
 }
 
 TEST_F(RegisterModelPagesTest, AFailingPageEndsTheList) {

@@ -1,6 +1,10 @@
 #include "register/Program.h"
 
+#include "panels/PanelCatalogue.h"
 #include "platform/data/Connection.h"
+#include "qt/RealPerson.h"
+#include "qt/ScratchSettings.h"
+#include "register/Memory.h"
 #include "sample/OutputFile.h"
 
 #include <quillmere/Sqlite.h>
@@ -8,8 +12,9 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QSettings>
+#include <QLabel>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -37,6 +42,13 @@ protected:
         return host::work(line, [this](const QString& text) { told << text; });
     }
 
+    /// Works on the window of that name as soon as it is there.
+    void onceRunning(const std::function<void(QWidget&)>& handWork, std::string_view name = "start") {
+        QTimer::singleShot(0, &context, [handWork, name] { handWork(test::windowNamed(name)); });
+    }
+
+    test::ScratchSettings settings;
+    QObject context;
     QTemporaryDir folder;
     QStringList told;
 };
@@ -48,7 +60,13 @@ TEST_F(RegisterProgramTest, ReadsTheCommandLine) {
     EXPECT_EQ(line.tour, QStringLiteral("shots"));
     EXPECT_EQ(line.unitCode, QStringLiteral("0104"));
     EXPECT_FALSE(line.help);
+    EXPECT_EQ(parsed({"--panels", "shots"}).panels, QStringLiteral("shots"));
     EXPECT_TRUE(parsed({"--help"}).help);
+    const CommandLine shots = parsed({"--panels", "shots", "--skin", "dark.qss", "--size", "1366x768"});
+    EXPECT_EQ(shots.complaint, QString());
+    EXPECT_EQ(shots.skin, QStringLiteral("dark.qss"));
+    EXPECT_EQ(shots.size, QSize(1366, 768));
+    EXPECT_FALSE(parsed({"--panels", "shots"}).size.isValid());
 }
 
 TEST_F(RegisterProgramTest, RefusesACommandLineThatItDoesNotKnow) {
@@ -56,11 +74,41 @@ TEST_F(RegisterProgramTest, RefusesACommandLineThatItDoesNotKnow) {
     EXPECT_EQ(parsed({"a.db", "b.db"}).complaint, QStringLiteral("只能打开一个登记库"));
     EXPECT_EQ(parsed({"--tour"}).complaint, QStringLiteral("--tour 后面缺少内容"));
     EXPECT_EQ(parsed({"--tour", ""}).complaint, QStringLiteral("--tour 后面缺少内容"));
+    EXPECT_EQ(parsed({"--tour", "a", "--panels", "b"}).complaint,
+              QStringLiteral("--tour 和 --panels 不能同时用"));
+    for (const char* size : {"1366", "1366x", "0x768", "1366x768x2", "wide"}) {
+        EXPECT_EQ(parsed({"--panels", "shots", "--size", size}).complaint,
+                  QStringLiteral("--size 后面应是 宽x高，例如 1366x768"))
+            << size;
+    }
+    for (const auto& words : {std::pair{"--skin", "dark.qss"}, {"--size", "1366x768"}}) {
+        EXPECT_EQ(parsed({words.first, words.second}).complaint,
+                  QStringLiteral("--skin 和 --size 只能和 --panels 同时用"));
+    }
 }
 
-TEST_F(RegisterProgramTest, AMissingRegisterIsToldAndGivesStatusOne) {
+TEST_F(RegisterProgramTest, AMissingRegisterIsToldInTheStartWindowAndGivesStatusOne) {
     CommandLine line;
     line.database = path("missing.db");
+    QString title;
+    QString text;
+    onceRunning([&](QWidget& start) {
+        title = start.findChild<QLabel*>("problemTitle")->text();
+        text = start.findChild<QLabel*>("problemText")->text();
+        start.close();
+    });
+    EXPECT_EQ(work(line), 1);
+    EXPECT_EQ(title, QStringLiteral("找不到登记库"));
+    EXPECT_TRUE(text.contains(QStringLiteral("missing.db"))) << text.toStdString();
+    EXPECT_EQ(told, QStringList());
+    EXPECT_FALSE(QFile::exists(line.database));
+    EXPECT_EQ(Memory::lastRegister(), QString());
+}
+
+TEST_F(RegisterProgramTest, WhereNobodyLooksAMissingRegisterIsToldAndGivesStatusOne) {
+    CommandLine line;
+    line.database = path("missing.db");
+    line.tour = path("pictures");
     EXPECT_EQ(work(line), 1);
     ASSERT_EQ(told.size(), 1);
     EXPECT_TRUE(told[0].startsWith(QStringLiteral("错误 53："))) << told[0].toStdString();
@@ -68,37 +116,32 @@ TEST_F(RegisterProgramTest, AMissingRegisterIsToldAndGivesStatusOne) {
     EXPECT_FALSE(QFile::exists(line.database));
 }
 
-TEST_F(RegisterProgramTest, AFileThatIsNoRegisterIsToldAndGivesStatusOne) {
-    write("letter.txt",
-          "This is a letter and no register. It is long enough to be taken for a page of one.\n");
-    CommandLine line;
-    line.database = path("letter.txt");
-    EXPECT_EQ(work(line), 1);
-    EXPECT_EQ(told.size(), 1);
+TEST_F(RegisterProgramTest, TheFirstStartOffersASampleOrAFile) {
+    bool problem = true;
+    onceRunning([&](QWidget& start) {
+        problem = start.findChild<QLabel*>("problemTitle")->isVisible();
+        EXPECT_TRUE(start.findChild<QWidget*>("openFile")->isVisible());
+        EXPECT_TRUE(start.findChild<QWidget*>("makeSample")->isVisible());
+        start.close();
+    });
+    EXPECT_EQ(work({}), 0);
+    EXPECT_FALSE(problem);
 }
 
-TEST_F(RegisterProgramTest, ARegisterIsChosenByNameThenByLastUseThenByThePerson) {
-    QCoreApplication::setOrganizationName(QStringLiteral("Quillmere"));
-    QCoreApplication::setApplicationName(QStringLiteral("test"));
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
-    int asked = 0;
-    const auto ask = [&asked] {
-        ++asked;
-        return QStringLiteral("chosen.db");
-    };
-    EXPECT_EQ(chooseRegister(parsed({"named.db"}), ask), QStringLiteral("named.db"));
-    EXPECT_EQ(asked, 0);
-    EXPECT_EQ(chooseRegister({}, ask), QStringLiteral("chosen.db"));
-    EXPECT_EQ(asked, 1);
+TEST_F(RegisterProgramTest, TheRegisterNamedComesBeforeTheLastOne) {
+    EXPECT_EQ(registerToOpen({}), QString());
+    Memory::setLastRegister(path("last.db"));
+    EXPECT_EQ(registerToOpen({}), path("last.db"));
+    EXPECT_EQ(registerToOpen(parsed({"named.db"})), QStringLiteral("named.db"));
+}
 
-    write("last.db", "");
-    QSettings().setValue("database", path("last.db"));
-    EXPECT_EQ(chooseRegister({}, ask), path("last.db"));
-    EXPECT_EQ(asked, 1);
-    QFile::remove(path("last.db"));
-    EXPECT_EQ(chooseRegister({}, ask), QStringLiteral("chosen.db"));
-    EXPECT_EQ(asked, 2);
+TEST_F(RegisterProgramTest, ARegisterThatOpensIsTheOneOfTheNextStart) {
+    CommandLine line;
+    line.database = path("register.db");
+    sample::buildFile(line.database.toStdString(), {}, false);
+    onceRunning([](QWidget& window) { window.close(); }, "register");
+    EXPECT_EQ(work(line), 0);
+    EXPECT_EQ(Memory::lastRegister(), line.database);
 }
 
 TEST_F(RegisterProgramTest, TheTourLeavesAPictureOfEachStopAndTheRegisterAsItWas) {
@@ -117,7 +160,7 @@ TEST_F(RegisterProgramTest, TheTourLeavesAPictureOfEachStopAndTheRegisterAsItWas
     EXPECT_EQ(work(line), 0);
     EXPECT_EQ(told, QStringList());
     const QStringList pictures = QDir(line.tour).entryList({QStringLiteral("*.png")});
-    EXPECT_EQ(pictures.size(), 12);
+    EXPECT_EQ(pictures.size(), 13);
     EXPECT_EQ(pictures.value(0), QStringLiteral("01-register.png"));
     for (const QString& picture : pictures)
         EXPECT_GT(QImage(QDir(line.tour).filePath(picture)).width(), 600) << picture.toStdString();
@@ -133,6 +176,34 @@ TEST_F(RegisterProgramTest, ATourThatCannotGoOnFails) {
     sample::buildFile(line.database.toStdString(), nobody, false);
     EXPECT_EQ(work(line), 1);
     EXPECT_EQ(told, QStringList({QStringLiteral("演示中断：登记库里没有人员")}));
+}
+
+TEST_F(RegisterProgramTest, APictureIsTakenOfEachPanelOfTheCatalogue) {
+    CommandLine line;
+    line.panels = path("panels");
+    EXPECT_EQ(work(line), 0);
+    EXPECT_EQ(told, QStringList());
+    QStringList expected;
+    for (const PanelRow& row : panelCatalogue())
+        expected << QString::fromStdString(std::string(row.className)) + QStringLiteral(".png");
+    expected.sort();
+    EXPECT_EQ(QDir(line.panels).entryList({QStringLiteral("*.png")}, QDir::Files, QDir::Name), expected);
+    QFile index(QDir(line.panels).filePath(QStringLiteral("index.html")));
+    ASSERT_TRUE(index.open(QIODevice::ReadOnly));
+    EXPECT_EQ(index.readAll().count("<img "), expected.size());
+}
+
+TEST_F(RegisterProgramTest, PanelsThatNoRecordLeadsToAreNamed) {
+    sample::Options nobody;
+    nobody.people = false;
+    CommandLine line;
+    line.database = path("register.db");
+    line.panels = path("panels");
+    sample::buildFile(line.database.toStdString(), nobody, false);
+    EXPECT_EQ(work(line), 1);
+    ASSERT_EQ(told.size(), 1);
+    EXPECT_TRUE(told[0].startsWith(QStringLiteral("截图中断：没有到达的面板：A1ctrlUserA01 ")))
+        << told[0].toStdString();
 }
 
 } // namespace

@@ -1,20 +1,9 @@
-#include "RealPerson.h"
+#include "RegisterOnScreen.h"
 
-#include "adapters/sqlite/SqliteConnection.h"
 #include "platform/Error.h"
-#include "register/MainWindow.h"
-#include "sample/SampleRegister.h"
 
-#include <QAction>
 #include <QDir>
-#include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
-#include <QTableView>
-#include <QTemporaryDir>
-#include <QToolButton>
-
-#include <gtest/gtest.h>
 
 #include <set>
 
@@ -26,62 +15,7 @@ using test::pressKey;
 using test::typeKeys;
 using test::widgetNamed;
 
-/// The main window on a sample of a few people, and in place of the maintenance window whatever the test
-/// says.
-class RegisterWindowTest : public testing::Test {
-protected:
-    RegisterWindowTest() {
-        sample::Options options;
-        options.persons = 6;
-        options.units = 3;
-        sample::build(*connection, options);
-    }
-
-    void open() {
-        window = std::make_unique<MainWindow>(
-            RegisterList(connection), HostSettings{QStringLiteral("r.db"), QStringLiteral("/photos"), "0104"},
-            [this](const MaintenanceRun& run) {
-                runs.push_back(run);
-                return maintenance(run);
-            });
-        window->show();
-        (void)test::windowNamed("register");
-    }
-
-    template <class T>
-    [[nodiscard]] T& child(const char* name) const {
-        return *window->findChild<T*>(QLatin1String(name));
-    }
-    [[nodiscard]] QTableView& table() const { return child<QTableView>("list"); }
-    [[nodiscard]] int rows() const { return table().model()->rowCount(); }
-    [[nodiscard]] QString name(int row) const { return table().model()->index(row, 0).data().toString(); }
-    [[nodiscard]] QString selectedName() const {
-        const QModelIndexList chosen = table().selectionModel()->selectedRows();
-        return chosen.size() == 1 ? chosen.front().data().toString() : QString();
-    }
-    [[nodiscard]] QString message() const { return child<QLabel>("message").text(); }
-    [[nodiscard]] QString outcome() const { return child<QLabel>("message").property("outcome").toString(); }
-    [[nodiscard]] std::string cell(const std::string& sql) const {
-        return connection->query(sql).at(0, std::size_t{0}).toText();
-    }
-    void addPerson(const std::string& id, const std::string& named, const std::string& type = "01") const {
-        connection->execute("insert into A01 (A00,A0199,A0101,A0136) values('" + id +
-                            "',(select max(A0199)+1 from A01),'" + named + "','" + type + "')");
-    }
-    void setCollective() const { RegisterList(connection).setNewRecordType(collectiveType); }
-    void chooseType(const QString& named) const {
-        for (QAction* action : child<QToolButton>("newRecord").menu()->actions()) {
-            if (action->text().startsWith(named)) return action->trigger();
-        }
-        FAIL() << named.toStdString();
-    }
-
-    test::Screen screen;
-    std::shared_ptr<data::Connection> connection = sqlite::openInMemory();
-    std::function<bool(const MaintenanceRun&)> maintenance = [](const MaintenanceRun&) { return false; };
-    std::vector<MaintenanceRun> runs;
-    std::unique_ptr<MainWindow> window;
-};
+class RegisterWindowTest : public RegisterOnScreen {};
 
 TEST_F(RegisterWindowTest, OpensOnThePersonsWithTheFirstOneSelected) {
     open();
@@ -89,46 +23,6 @@ TEST_F(RegisterWindowTest, OpensOnThePersonsWithTheFirstOneSelected) {
     EXPECT_EQ(selectedName(), name(0));
     EXPECT_EQ(child<QLabel>("count").text(), QStringLiteral("共 6 人"));
     EXPECT_TRUE(test::focusComesTo("list"));
-}
-
-TEST_F(RegisterWindowTest, ASearchTypedNarrowsTheList) {
-    addPerson("x", "祁望舒");
-    addPerson("y", "祁连山");
-    open();
-    pressKey(Qt::Key_F, Qt::ControlModifier);
-    ASSERT_TRUE(test::focusComesTo("search"));
-    typeKeys("祁");
-    EXPECT_EQ(rows(), 2);
-    EXPECT_EQ(child<QLabel>("count").text(), QStringLiteral("找到 2 人"));
-    typeKeys("望");
-    EXPECT_EQ(rows(), 1);
-    EXPECT_EQ(selectedName(), QStringLiteral("祁望舒"));
-}
-
-TEST_F(RegisterWindowTest, EscapeShowsTheWholeListAndKeepsTheSelection) {
-    addPerson("x", "祁望舒");
-    addPerson("y", "甲");
-    open();
-    pressKey(Qt::Key_F, Qt::ControlModifier);
-    typeKeys("望舒");
-    pressKey(Qt::Key_Escape);
-    EXPECT_EQ(rows(), 8);
-    EXPECT_EQ(selectedName(), QStringLiteral("祁望舒"));
-    EXPECT_TRUE(test::focusComesTo("list"));
-}
-
-TEST_F(RegisterWindowTest, EnterInTheSearchGoesToTheListAndEnterThereMaintains) {
-    addPerson("x", "祁望舒");
-    open();
-    pressKey(Qt::Key_F, Qt::ControlModifier);
-    typeKeys("望舒");
-    pressKey(Qt::Key_Return);
-    ASSERT_TRUE(test::focusComesTo("list"));
-    EXPECT_TRUE(runs.empty());
-    pressKey(Qt::Key_Return);
-    ASSERT_EQ(runs.size(), 1U);
-    EXPECT_EQ(runs[0].operation, Operation::Maintain);
-    EXPECT_EQ(runs[0].personId, "x");
 }
 
 TEST_F(RegisterWindowTest, ADoubleClickMaintains) {
@@ -139,20 +33,6 @@ TEST_F(RegisterWindowTest, ADoubleClickMaintains) {
     ASSERT_EQ(runs.size(), 1U);
     EXPECT_EQ(runs[0].operation, Operation::Maintain);
     EXPECT_EQ(runs[0].personId, "x");
-}
-
-TEST_F(RegisterWindowTest, ASearchWithoutResultSaysSoAndOffersNothingToOpen) {
-    open();
-    pressKey(Qt::Key_F, Qt::ControlModifier);
-    typeKeys("zzz");
-    EXPECT_TRUE(child<QLabel>("emptyTitle").isVisible());
-    EXPECT_EQ(child<QLabel>("emptyTitle").text(), QStringLiteral("没有找到“zzz”"));
-    for (const char* button : {"maintain", "plan", "progress", "closing"})
-        EXPECT_FALSE(child<QToolButton>(button).isEnabled()) << button;
-    EXPECT_TRUE(child<QToolButton>("newRecord").isEnabled());
-    pressKey(Qt::Key_Escape);
-    EXPECT_FALSE(child<QLabel>("emptyTitle").isVisible());
-    EXPECT_TRUE(child<QToolButton>("maintain").isEnabled());
 }
 
 TEST_F(RegisterWindowTest, AnEmptyRegisterSaysSo) {
@@ -221,7 +101,6 @@ TEST_F(RegisterWindowTest, ChoosingTheCollectiveTypeMakesNewUnits) {
 }
 
 TEST_F(RegisterWindowTest, TheComponentMakesTheNewUnitUnderTheFreshIdentity) {
-    const QTemporaryDir folder;
     setCollective();
     std::string identity;
     maintenance = [&](MaintenanceRun run) {
@@ -259,8 +138,8 @@ TEST_F(RegisterWindowTest, ATypeSetBySomeoneElseCountsForTheNextNewRecord) {
 TEST_F(RegisterWindowTest, ASavedNewPersonIsSelectedWhateverWasSearched) {
     addPerson("x", "祁望舒");
     open();
-    pressKey(Qt::Key_F, Qt::ControlModifier);
-    typeKeys("望舒");
+    searchFor("望舒");
+    ASSERT_EQ(found().size(), 1);
     maintenance = [this](const MaintenanceRun&) {
         addPerson("made", "甲");
         return true;
