@@ -184,6 +184,19 @@ TEST(MaskBoxTest, AClickThatBringsTheFocusLeavesTheCaretAtTheFront) {
     });
 }
 
+TEST(MaskBoxTest, AClickBehindAnOpenMaskPutsTheCaretOnItsFirstOpenPlace) {
+    inMask([](MaskForm& form, QLineEdit& editor) {
+        const QPoint behind(editor.width() - 4, editor.height() / 2);
+        QTest::mouseClick(&editor, Qt::LeftButton, Qt::NoModifier, behind);
+        EXPECT_EQ(0, editor.cursorPosition());
+        typeKeys("19");
+        QTest::mouseClick(&editor, Qt::LeftButton, Qt::NoModifier, behind);
+        EXPECT_EQ(2, editor.cursorPosition());
+        typeKeys("9003");
+        EXPECT_EQ("1990年03月", form.month.Text());
+    });
+}
+
 TEST(MaskBoxTest, ATextSetByTheProgramShowsAsItIs) {
     inMask([](MaskForm& form, QLineEdit& editor) {
         form.month.setText("1990-03");

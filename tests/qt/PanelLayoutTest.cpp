@@ -190,7 +190,19 @@ private:
         for (const auto* area : area_.findChildren<QScrollArea*>()) {
             if (area->isVisible() && area->widget()->width() > area->viewport()->width())
                 complaints_.emplace_back("wider than the window");
+            // Below a panel without long texts and lists there is room left.
+            const bool room = area->isVisible() && placeOf(*area).bottom() + 200 < placeOf(area_).bottom() &&
+                              !hasWideParts();
+            if (room && area->verticalScrollBar()->maximum() > 0)
+                complaints_.emplace_back("scrolls without need");
         }
+    }
+
+    bool hasWideParts() const {
+        const auto parts = area_.findChildren<QAbstractScrollArea*>();
+        return std::ranges::any_of(parts, [](const auto* part) {
+            return part->isVisible() && qobject_cast<const QScrollArea*>(part) == nullptr;
+        });
     }
 
     const A1ctrlUser& panel_;
@@ -223,7 +235,7 @@ protected:
                 ASSERT_TRUE(form.menu().clickItem(static_cast<int>(g) + 1, static_cast<int>(i) + 1));
                 const A1ctrlUser& panel = *form.GetUserCtrl();
                 if (!seen.insert(std::string(panel.row().className)).second) continue;
-                for (const QSize size : {QSize(1280, 800), QSize(1600, 1000)}) {
+                for (const QSize size : {QSize(776, 744), QSize(1280, 800), QSize(1600, 1000)}) {
                     window.resize(size);
                     settle();
                     EXPECT_EQ(Complaints{}, Inspection(panel, window).complaints())

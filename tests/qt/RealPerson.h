@@ -42,9 +42,11 @@ public:
     [[nodiscard]] const std::vector<ui::MessageBox>& boxes() const { return boxes_; }
     /// "opened NAME" and "closed NAME", in order.
     [[nodiscard]] const std::vector<std::string>& seen() const { return seen_; }
+    [[nodiscard]] int beeps() const { return beeps_; }
 
     void formOpened(ui::Form& form) override;
     void formClosed(ui::Form& form) override;
+    void beepHeard() override { ++beeps_; }
     std::optional<ui::Answer> messageOpened(const ui::MessageBox& message) override;
 
 private:
@@ -63,6 +65,7 @@ private:
     std::deque<ExpectedForm> expectedForms_;
     std::vector<ui::MessageBox> boxes_;
     std::vector<std::string> seen_;
+    int beeps_ = 0;
 };
 
 /// A person with a toolkit of their own.

@@ -196,6 +196,21 @@ TEST(MaskTest, AMaskWithoutPlacesTakesNothing) {
     }
 }
 
+TEST(MaskTest, PointingBehindTheLastPlaceGoesToTheFirstOpenOne) {
+    const auto pointed = [](std::u32string_view text, std::size_t position) {
+        return Mask(month, U'_').pointed(text, position);
+    };
+    EXPECT_EQ(0U, pointed(U"____年__月", 8));
+    EXPECT_EQ(0U, pointed(U"____年__月", 7));
+    EXPECT_EQ(6U, pointed(U"1990年0_月", 8));
+    // There a digit still finds a place.
+    EXPECT_EQ(5U, pointed(U"____年__月", 5));
+    EXPECT_EQ(4U, pointed(U"____年__月", 4));
+    // Nothing is open, or the text is not of the mask.
+    EXPECT_EQ(8U, pointed(U"1990年03月", 8));
+    EXPECT_EQ(7U, pointed(U"1990-03", 7));
+}
+
 TEST(MaskTest, WhateverTextAProgramSetsOneDigitMakesItFitTheMask) {
     constexpr unsigned seed = 20261121;
     std::mt19937 random(seed);

@@ -160,4 +160,29 @@ TEST_F(TreeViewTest, KeysInAnEmptyTreeDoNothing) {
 }
 
 } // namespace
+TEST_F(TreeViewTest, TellsWhichNodeWasOpenedOrClosedLast) {
+    TreeView shown("tv");
+    auto& first = shown.add(nullptr, "a", "a");
+    auto& second = shown.add(nullptr, "b", "b");
+    shown.add(&first, "a1", "a1");
+    EXPECT_EQ(nullptr, shown.lastToggled());
+    shown.setExpanded(first, true);
+    EXPECT_EQ(&first, shown.lastToggled());
+    shown.setExpanded(second, false);
+    EXPECT_EQ(&first, shown.lastToggled());
+    shown.clear();
+    EXPECT_EQ(nullptr, shown.lastToggled());
+}
+
+TEST_F(TreeViewTest, KnowsTheLowestNodeThatShows) {
+    TreeView shown("tv");
+    EXPECT_EQ(nullptr, shown.lastShown());
+    shown.add(nullptr, "a", "a");
+    auto& last = shown.add(nullptr, "b", "b");
+    auto& below = shown.add(&last, "b1", "b1");
+    EXPECT_EQ(&last, shown.lastShown());
+    shown.setExpanded(last, true);
+    EXPECT_EQ(&below, shown.lastShown());
+}
+
 } // namespace quillmere::ui

@@ -1,5 +1,6 @@
 #include "adapters/qt/Application.h"
 
+#include "adapters/qt/AccessibleRoles.h"
 #include "adapters/qt/Style.h"
 
 #include "platform/Error.h"
@@ -48,6 +49,7 @@ OwnApplication* own = nullptr;
 void requireApplication(const std::string& name, const std::string& platform) {
     if (QCoreApplication::instance() == nullptr) {
         own = new OwnApplication(name, platform);
+        installAccessibleRoles();
         return;
     }
     if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr) {
@@ -55,6 +57,7 @@ void requireApplication(const std::string& name, const std::string& platform) {
                     "当前程序只有 QCoreApplication，不能显示窗口。请创建 QApplication。", "Quillmere");
     }
     requireUserInterfaceThread();
+    installAccessibleRoles();
 }
 
 void requireUserInterfaceThread() {

@@ -18,6 +18,8 @@ protected:
 
 private:
     [[nodiscard]] QCheckBox& box() const;
+    /// What the model says.
+    [[nodiscard]] bool isChecked() const;
 };
 
 } // namespace quillmere::qt

@@ -24,7 +24,7 @@ public:
     HiddenPeer(FormPeer& form, ui::Control& control);
 };
 
-/// Nothing to see: has the window dressed in the skin's style file.
+/// Nothing to see: has the window wear the skin.
 class SkinPeer final : public ControlPeer {
 public:
     SkinPeer(FormPeer& form, ui::Control& control);

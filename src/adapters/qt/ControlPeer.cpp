@@ -66,6 +66,7 @@ void ControlPeer::changed(ui::Property property) {
         mirror(property);
         break;
     }
+    if (control_ != nullptr) form_.names().follow(*control_, property);
 }
 
 bool ControlPeer::keyPressed(QKeyEvent& event) {

@@ -105,7 +105,7 @@ FieldGrid::FieldGrid(const std::vector<Field>& fields) : all_(fields) {
         field.editor->widget()->installEventFilter(this);
     }
     findVisible();
-    arrange({1, true});
+    arrange({});
 }
 
 std::vector<Field> FieldGrid::visibleFields() const {
@@ -162,6 +162,7 @@ void FieldGrid::prepare(const Field& field) {
     }
     caption.setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     captionWidth_ = std::max(captionWidth_, captionWidth(caption, true));
+    longestCaption_ = std::max(longestCaption_, captionWidth(caption, false));
 }
 
 int FieldGrid::captionWidth(const QLabel& caption, bool wraps) {
@@ -200,7 +201,7 @@ FieldGrid::Shape FieldGrid::shapeFor(int width) const {
     const int others =
         2 * sideMargin + (columns - 1) * columnGap + columns * (unitWidth_ + perColumn * spacing);
     const int room = width - others - std::accumulate(captions.begin(), captions.end(), 0);
-    return {columns, room < columns * comfortableEditor};
+    return {columns, captionWidth_ < longestCaption_ && room < columns * comfortableEditor};
 }
 
 void FieldGrid::resizeEvent(QResizeEvent* event) {

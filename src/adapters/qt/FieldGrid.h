@@ -40,7 +40,7 @@ private:
     struct Shape {
         int columns = 1;
         /// Long captions take two lines, which leaves more to the boxes.
-        bool wraps = true;
+        bool wraps = false;
         bool operator==(const Shape&) const = default;
     };
 
@@ -65,7 +65,9 @@ private:
     std::vector<Field> fields_;
     QLabel* cornerCaption_ = nullptr;
     QWidget* corner_ = nullptr;
+    /// What the captions need when the long ones wrap, and when none does.
     int captionWidth_ = 0;
+    int longestCaption_ = 0;
     int unitWidth_ = 0;
     int mostColumns_ = 3;
     /// As many as make even rows.

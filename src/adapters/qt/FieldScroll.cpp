@@ -4,6 +4,7 @@
 
 #include <QEvent>
 #include <QResizeEvent>
+#include <QTimer>
 
 namespace quillmere::qt {
 
@@ -13,9 +14,24 @@ FieldScroll::FieldScroll(FieldGrid* fields) {
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    // Left to itself the bar may stay, and take its width, when the area has grown high enough.
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     viewport()->setAutoFillBackground(false);
     fields->setAutoFillBackground(false);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+}
+
+void FieldScroll::chooseBar() {
+    const QWidget& fields = *widget();
+    const int needed =
+        fields.hasHeightForWidth() ? fields.heightForWidth(width()) : fields.minimumSizeHint().height();
+    setVerticalScrollBarPolicy(needed > height() ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+}
+
+bool FieldScroll::event(QEvent* event) {
+    const bool handled = QScrollArea::event(event);
+    if (event->type() == QEvent::Resize) QTimer::singleShot(0, this, [this] { chooseBar(); });
+    return handled;
 }
 
 QSize FieldScroll::sizeHint() const {
@@ -37,7 +53,10 @@ void FieldScroll::resizeEvent(QResizeEvent* event) {
 
 bool FieldScroll::eventFilter(QObject* watched, QEvent* event) {
     const bool handled = QScrollArea::eventFilter(watched, event);
-    if (watched == widget() && event->type() == QEvent::LayoutRequest) updateGeometry();
+    if (watched == widget() && event->type() == QEvent::LayoutRequest) {
+        updateGeometry();
+        QTimer::singleShot(0, this, [this] { chooseBar(); });
+    }
     return handled;
 }
 

@@ -16,8 +16,13 @@ public:
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:
+    bool event(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    /// A bar only where the fields need more room than there is.
+    void chooseBar();
 };
 
 } // namespace quillmere::qt

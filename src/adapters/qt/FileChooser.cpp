@@ -2,6 +2,7 @@
 
 #include "adapters/qt/Guard.h"
 #include "adapters/qt/QtText.h"
+#include "adapters/qt/Style.h"
 
 #include "platform/files/Files.h"
 
@@ -28,6 +29,13 @@ std::string chooseFile(const ui::FileDialog& dialog, QWidget* parent) {
     chooser.setObjectName(QStringLiteral("fileDialog"));
     chooser.setAttribute(Qt::WA_QuitOnClose, false);
     chooser.setFileMode(QFileDialog::ExistingFile);
+    chooser.setWindowFlags(chooser.windowFlags() & ~Qt::WindowContextHelpButtonHint);
+    style::dress(chooser);
+    chooser.setLabelText(QFileDialog::LookIn, QStringLiteral("位置："));
+    chooser.setLabelText(QFileDialog::FileName, QStringLiteral("文件名："));
+    chooser.setLabelText(QFileDialog::FileType, QStringLiteral("文件类型："));
+    chooser.setLabelText(QFileDialog::Accept, QStringLiteral("打开"));
+    chooser.setLabelText(QFileDialog::Reject, QStringLiteral("取消"));
     chooser.setNameFilters(nameFilters(toQt(dialog.filter)));
     if (!dialog.directory.empty()) {
         // The directory may be given by a file in it.

@@ -31,11 +31,18 @@ FocusKeeper::FocusKeeper(FormPeer& peer) : peer_(peer) {
 }
 
 QWidget* FocusKeeper::wanted() const {
+    if (borrower_ != nullptr && borrower_->isVisible()) return borrower_;
     const ControlPeer* peer = peer_.peerOf(peer_.form().ActiveControl());
     return peer != nullptr && peer->focusTarget() != nullptr ? peer->focusTarget() : &peer_.window();
 }
 
+void FocusKeeper::lend(QWidget* widget) {
+    borrower_ = widget;
+    put();
+}
+
 void FocusKeeper::follow(ui::Control* now) {
+    borrower_ = nullptr;
     if (now != nullptr && peer_.peerOf(now) != nullptr) put();
     putLater();
 }

@@ -3,6 +3,8 @@
 #include "platform/ui/Control.h"
 
 #include <QObject>
+#include <QPointer>
+#include <QWidget>
 
 namespace quillmere::qt {
 
@@ -16,6 +18,9 @@ public:
 
     /// The model's focus is here now, or nowhere.
     void follow(ui::Control* now);
+    /// Lets a widget that takes no focus have the keyboard for a time, the model's focus staying where
+    /// it is; none gives it back. A move of the model's focus ends it too.
+    void lend(QWidget* widget);
 
 private:
     void put();
@@ -23,6 +28,7 @@ private:
     [[nodiscard]] QWidget* wanted() const;
 
     FormPeer& peer_;
+    QPointer<QWidget> borrower_;
     bool scheduled_ = false;
 };
 

@@ -7,6 +7,7 @@
 #include "adapters/qt/Style.h"
 #include "adapters/qt/WindowLayout.h"
 
+#include <QCoreApplication>
 #include <QTimer>
 
 #include <vector>
@@ -14,7 +15,11 @@
 namespace quillmere::qt {
 
 FormPeer::FormPeer(ui::Form& form, QWidget* parent)
-    : form_(form), window_(std::make_unique<FormWindow>(*this, parent)), focus_(*this), events_(*this) {
+    : form_(form)
+    , window_(std::make_unique<FormWindow>(*this, parent))
+    , focus_(*this)
+    , names_(*this)
+    , events_(*this) {
     style::dress(*window_);
     for (const auto& control : form.Controls())
         makePeer(*this, *control);
@@ -25,6 +30,7 @@ FormPeer::FormPeer(ui::Form& form, QWidget* parent)
     form.setFormView(this);
     form.setHostView(this);
     captionChanged();
+    names_.nameControls(form);
 }
 
 FormPeer::~FormPeer() {
@@ -67,6 +73,7 @@ void FormPeer::adopt(ControlPeer& peer) {
 }
 
 void FormPeer::forget(ControlPeer& peer) {
+    names_.forget(peer);
     peers_.erase(peer.control());
     std::erase_if(byWidget_, [&](const auto& entry) { return entry.second == &peer; });
 }
@@ -96,8 +103,10 @@ void FormPeer::schedulePending() {
 void FormPeer::buildPending() {
     if (!pending_) return;
     pending_ = false;
+    bool fresh = false;
     for (const auto& control : form_.Controls()) {
         if (peerOf(control.get()) != nullptr) continue;
+        fresh = true;
         ControlPeer& peer = makePeer(*this, *control);
         ControlPeer* container = peerOf(control->Container());
         QWidget* surface = container == nullptr ? nullptr : container->surface();
@@ -107,6 +116,9 @@ void FormPeer::buildPending() {
         auto* panel = dynamic_cast<PanelPeer*>(peerOf(control.get()));
         if (panel != nullptr) panel->buildPending();
     }
+    if (fresh) names_.nameControls(form_);
+    // A layout takes several rounds. On a real screen the unfinished ones would flash up.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     focusMoved(form_.ActiveControl());
 }
 

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "adapters/qt/AccessibleNames.h"
 #include "adapters/qt/ControlPeer.h"
 #include "adapters/qt/FocusKeeper.h"
 #include "adapters/qt/FormWindow.h"
 #include "adapters/qt/ModalSession.h"
 #include "adapters/qt/PersonEvents.h"
+#include "adapters/qt/Style.h"
 
 #include "platform/ui/Form.h"
 #include "platform/ui/UserControl.h"
@@ -31,6 +33,9 @@ public:
     [[nodiscard]] FormWindow& window() const { return *window_; }
     /// The window of records has a layout of its own; everything else is a dialog.
     [[nodiscard]] bool isMainWindow() const;
+    /// What assistive programs call the controls.
+    [[nodiscard]] AccessibleNames& names() { return names_; }
+    [[nodiscard]] FocusKeeper& focus() { return focus_; }
 
     [[nodiscard]] ControlPeer* peerOf(const ui::Control* control) const;
     /// The peer of the widget or of the nearest one around it that has a peer.
@@ -59,9 +64,12 @@ private:
     ui::Form& form_;
     std::unordered_map<const ui::Control*, ControlPeer*> peers_;
     std::unordered_map<const QWidget*, ControlPeer*> byWidget_;
+    /// Gives the skin back when the window has gone.
+    style::SkinKeeper skin_;
     std::unique_ptr<FormWindow> window_;
     ModalSession session_;
     FocusKeeper focus_;
+    AccessibleNames names_;
     PersonEvents events_;
     bool pending_ = false;
     bool scheduled_ = false;

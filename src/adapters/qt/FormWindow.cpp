@@ -1,5 +1,6 @@
 #include "adapters/qt/FormWindow.h"
 
+#include "adapters/qt/AccessibleRoles.h"
 #include "adapters/qt/FormPeer.h"
 #include "adapters/qt/Guard.h"
 #include "adapters/qt/Twips.h"
@@ -23,6 +24,7 @@ constexpr QSize smallestDialog(380, 120);
 } // namespace
 
 FormWindow::FormWindow(FormPeer& peer, QWidget* parent) : QWidget(parent, Qt::Window), peer_(peer) {
+    readAs(*this, peer.isMainWindow() ? QAccessible::Window : QAccessible::Dialog);
     setObjectName(QString::fromStdString(peer.form().name()));
     if (!peer.isMainWindow()) setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     setAttribute(Qt::WA_QuitOnClose, false);

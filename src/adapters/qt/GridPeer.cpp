@@ -43,7 +43,7 @@ protected:
         QTableView::paintEvent(event);
         if (model()->rowCount() != 0 || model()->columnCount() == 0) return;
         QPainter painter(viewport());
-        painter.setPen(style::mutedText);
+        painter.setPen(style::colours().mutedText);
         painter.drawText(viewport()->rect(), Qt::AlignCenter, QStringLiteral("暂无记录"));
     }
 };

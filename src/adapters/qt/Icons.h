@@ -1,5 +1,7 @@
 #pragma once
 
+#include "adapters/qt/Skin.h"
+
 #include <QColor>
 #include <QIcon>
 #include <QRect>
@@ -23,16 +25,20 @@ enum class Glyph {
     Check,
     Document,
     Information,
+    Letter,
+    Question,
+    Exclamation,
+    Cross,
     Ellipsis,
     ChevronDown,
     ChevronRight,
 };
 
+/// Straight lines are set on whole pixels of the screen, whatever its scale.
 void paint(QPainter& painter, Glyph glyph, const QRect& place, const QColor& colour);
 
-/// In the accent, pale when disabled; or in a colour of its own.
-[[nodiscard]] QIcon icon(Glyph glyph);
-[[nodiscard]] QIcon icon(Glyph glyph, const QColor& colour);
+/// In a colour of the skin that is worn when the picture is painted, pale when disabled.
+[[nodiscard]] QIcon icon(Glyph glyph, QColor Colours::*colour = &Colours::icon);
 
 /// The picture for a toolbar button, by its key; a document for an unknown one.
 [[nodiscard]] Glyph forCommand(const QString& key);

@@ -1,5 +1,6 @@
 #include "adapters/qt/ImagePeer.h"
 
+#include "adapters/qt/AccessibleRoles.h"
 #include "adapters/qt/FormPeer.h"
 #include "adapters/qt/Icons.h"
 #include "adapters/qt/QtText.h"
@@ -24,6 +25,7 @@ public:
     explicit PictureWidget(QWidget* parent) : QWidget(parent) {
         setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
         setMinimumSize(portrait);
+        readAs(*this, QAccessible::Graphic);
     }
 
     void show(QImage picture) {
@@ -38,13 +40,13 @@ protected:
         QPainter painter(this);
         painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
         const QRectF frame = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-        painter.setPen(QPen(style::cardBorder, 1));
-        painter.setBrush(style::quietGround);
+        painter.setPen(QPen(style::colours().cardBorder, 1));
+        painter.setBrush(style::colours().quiet);
         painter.drawRoundedRect(frame, 4, 4);
         if (picture_.isNull()) {
             const int side = qMin(width(), height()) / 2;
             const QRect middle(QPoint((width() - side) / 2, (height() - side) / 2), QSize(side, side));
-            icons::paint(painter, icons::Glyph::Person, middle, style::fieldBorder);
+            icons::paint(painter, icons::Glyph::Person, middle, style::colours().emptyPicture);
             return;
         }
         QRect target(QPoint(), picture_.size().scaled(size() - QSize(6, 6), Qt::KeepAspectRatio));

@@ -90,8 +90,11 @@ void MaskEdBoxPeer::followCaret() {
     const QString text = editor().text();
     const bool selected = editor().hasSelectedText();
     const int start = selected ? editor().selectionStart() : editor().cursorPosition();
-    as<ui::MaskEdBox>().setSelection(charactersIn(QStringView(text).left(start)),
-                                     selected ? charactersIn(editor().selectedText()) : 0);
+    auto& box = as<ui::MaskEdBox>();
+    const auto place = charactersIn(QStringView(text).left(start));
+    if (selected) return box.setSelection(place, charactersIn(editor().selectedText()));
+    box.pointByPerson(place);
+    if (box.SelStart() != place) mirror(ui::Property::Selection);
 }
 
 bool MaskEdBoxPeer::keyPressed(QKeyEvent& event) {

@@ -37,16 +37,17 @@ public:
 
 protected:
     void inputMethodEvent(QInputMethodEvent* event) override {
-        const QString composed = event->commitString();
-        if (composed.isEmpty()) {
-            QPlainTextEdit::inputMethodEvent(event);
-            return;
-        }
-        // The composition ends without a text of its own; what it gave is typed.
-        QInputMethodEvent ending(event->preeditString(), event->attributes());
-        ending.setCommitString(QString(), event->replacementStart(), event->replacementLength());
-        QPlainTextEdit::inputMethodEvent(&ending);
-        guarded([&] { peer->enterTyped(composed); });
+        guarded([&] {
+            peer->compose(*event,
+                          [this](QInputMethodEvent& part) { QPlainTextEdit::inputMethodEvent(&part); });
+        });
+    }
+
+    void focusOutEvent(QFocusEvent* event) override {
+        QPlainTextEdit::focusOutEvent(event);
+        const bool back =
+            event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
+        if (!back) guarded([this] { peer->dropComposition(); });
     }
 
     void insertFromMimeData(const QMimeData* source) override {

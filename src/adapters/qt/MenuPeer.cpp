@@ -88,7 +88,8 @@ void MenuPeer::addGroup(int number) {
     auto* header = new MenuButton("menuGroup", nullptr);
     const auto place = static_cast<std::size_t>(number) - 1;
     header->setObjectName(QStringLiteral("%1_%2").arg(widget()->objectName()).arg(number));
-    header->setIcon(icons::icon(groupIcons[place % groupIcons.size()], style::menuIcon));
+    header->setIcon(icons::icon(groupIcons[place % groupIcons.size()], &Colours::menuIcon));
+    header->setIconSize({18, 18});
     header->caption(toQt(as<ui::VerticalMenu>().groups()[place].caption));
     connect(header, &QPushButton::clicked, this, [this, number] {
         guarded([this, number] {

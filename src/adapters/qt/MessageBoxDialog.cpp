@@ -1,10 +1,11 @@
 #include "adapters/qt/MessageBoxDialog.h"
 
+#include "adapters/qt/AccessibleRoles.h"
 #include "adapters/qt/Guard.h"
+#include "adapters/qt/Icons.h"
 #include "adapters/qt/QtText.h"
 #include "adapters/qt/Style.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -25,43 +26,45 @@ constexpr int widestText = 460;
 
 struct SignLook {
     QColor colour;
-    const char* character;
+    icons::Glyph mark;
 };
 
 SignLook lookOf(ui::Icon icon) {
+    const Colours& skin = style::colours();
     switch (icon) {
     case ui::Icon::Warning:
-        return {QColor(0xE9, 0xA2, 0x1B), "!"};
+        return {skin.warning, icons::Glyph::Exclamation};
     case ui::Icon::Error:
-        return {QColor(0xD6, 0x45, 0x45), "×"};
+        return {skin.error, icons::Glyph::Cross};
     case ui::Icon::Question:
-        return {style::accent, "?"};
+        return {skin.focus, icons::Glyph::Question};
     case ui::Icon::Information:
     case ui::Icon::None:
         break;
     }
-    return {style::accent, "i"};
+    return {skin.focus, icons::Glyph::Letter};
 }
 
-QPixmap signOf(ui::Icon icon, double ratio) {
-    const auto [colour, character] = lookOf(icon);
-    const int side = static_cast<int>(signSize * ratio);
-    QPixmap pixmap(side, side);
-    pixmap.setDevicePixelRatio(ratio);
-    pixmap.fill(Qt::transparent);
-    QPainter painter(&pixmap);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(colour);
-    painter.drawEllipse(0, 0, signSize, signSize);
-    QFont font = QApplication::font();
-    font.setPixelSize(22);
-    font.setBold(true);
-    painter.setFont(font);
-    painter.setPen(Qt::white);
-    painter.drawText(QRect(0, 0, signSize, signSize), Qt::AlignCenter, QString::fromUtf8(character));
-    return pixmap;
-}
+/// A disc in the colour of what the box says, with its mark.
+class Sign final : public QWidget {
+public:
+    explicit Sign(ui::Icon icon) : look_(lookOf(icon)) { setFixedSize(signSize, signSize); }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(look_.colour);
+        painter.drawEllipse(rect());
+        constexpr int edge = 3;
+        icons::paint(painter, look_.mark, rect().adjusted(edge, edge, -edge, -edge),
+                     style::colours().signMark);
+    }
+
+private:
+    SignLook look_;
+};
 
 } // namespace
 
@@ -69,10 +72,12 @@ MessageBoxDialog::MessageBoxDialog(const ui::MessageBox& box, const QString& tit
     : QWidget(parent, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowCloseButtonHint)
     , buttons_(box.buttons)
     , answer_(box.buttons == ui::Buttons::Ok ? ui::Answer::Ok : ui::Answer::No) {
+    readAs(*this, QAccessible::AlertMessage);
     setObjectName(QStringLiteral("messageBox"));
     setAttribute(Qt::WA_QuitOnClose, false);
     setWindowModality(Qt::ApplicationModal);
     setWindowTitle(box.title.empty() ? titleBelow : toQt(box.title));
+    setAccessibleDescription(toQt(box.text));
     style::dress(*this);
     setProperty("role", "dialog");
 
@@ -82,9 +87,7 @@ MessageBoxDialog::MessageBoxDialog(const ui::MessageBox& box, const QString& tit
     auto* row = new QHBoxLayout;
     row->setSpacing(16);
     if (box.icon != ui::Icon::None) {
-        auto* sign = new QLabel;
-        sign->setPixmap(signOf(box.icon, devicePixelRatioF()));
-        row->addWidget(sign, 0, Qt::AlignTop);
+        row->addWidget(new Sign(box.icon), 0, Qt::AlignTop);
     }
     auto* message = new QLabel(toQt(box.text));
     message->setObjectName(QStringLiteral("messageText"));
@@ -129,6 +132,8 @@ ui::Answer MessageBoxDialog::ask() {
     show();
     raise();
     activateWindow();
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
     session_.run();
     return answer_;
 }

@@ -36,7 +36,7 @@ bool isDrawnFrame(const ui::Control* control) {
 class HelpSign final : public QLabel {
 public:
     HelpSign(QLabel& help, QWidget* parent) : QLabel(parent) {
-        setPixmap(icons::icon(icons::Glyph::Information, style::mutedText).pixmap(16, 16));
+        setPixmap(icons::icon(icons::Glyph::Information, &Colours::mutedText).pixmap(16, 16));
         help.installEventFilter(this);
         // Shown before it has a place, it would be a window of its own in front of all others.
         if (help.text().isEmpty()) hide();
@@ -158,6 +158,8 @@ private:
         const bool wide = fields->hasWideFields();
         card->setSizePolicy(QSizePolicy::Preferred, wide ? QSizePolicy::Expanding : QSizePolicy::Preferred);
         column_->addWidget(card, wide ? 2 : 0);
+        // Left to the layout it would show a round later, and the list would flash up alone before it.
+        card->show();
     }
 
     void addHelp(QVBoxLayout& card) {

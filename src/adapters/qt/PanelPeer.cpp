@@ -26,10 +26,11 @@ void PanelPeer::buildPending() {
     }
     if (!std::exchange(laidOut_, true)) {
         layOutPanel(formPeer(), panel, *widget());
-        return;
+    } else {
+        for (ControlPeer* peer : fresh)
+            putInto(*widget(), *peer);
     }
-    for (ControlPeer* peer : fresh)
-        putInto(*widget(), *peer);
+    if (!fresh.empty()) formPeer().names().nameControls(panel);
 }
 
 void PanelPeer::added(ui::Control& /*control*/) { formPeer().schedulePending(); }

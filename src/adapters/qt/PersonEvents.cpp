@@ -3,6 +3,7 @@
 #include "adapters/qt/FormPeer.h"
 #include "adapters/qt/Guard.h"
 #include "adapters/qt/QtKeys.h"
+#include "adapters/qt/TextEntry.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -10,7 +11,7 @@
 
 namespace quillmere::qt {
 
-PersonEvents::PersonEvents(FormPeer& peer) : peer_(peer) { qApp->installEventFilter(this); }
+PersonEvents::PersonEvents(FormPeer& peer) : peer_(peer), menuKeys_(peer) { qApp->installEventFilter(this); }
 
 PersonEvents::~PersonEvents() { qApp->removeEventFilter(this); }
 
@@ -49,6 +50,7 @@ bool PersonEvents::pass(QWidget& widget, QEvent& event) {
 }
 
 bool PersonEvents::key(QWidget& widget, QKeyEvent& event) {
+    if (menuKeys_.take(event)) return true;
     ui::Form& form = peer_.form();
     ControlPeer* peer = peer_.peerAround(&widget);
     // A key that its widget left alone climbs to the widgets around it, where it was seen already.
@@ -75,6 +77,10 @@ bool PersonEvents::key(QWidget& widget, QKeyEvent& event) {
 }
 
 bool PersonEvents::press(QWidget& widget, QMouseEvent& event) {
+    menuKeys_.leave();
+    // What is being composed counts before anything is asked, saved or left.
+    if (auto* entry = dynamic_cast<TextEntry*>(peer_.peerOf(peer_.form().ActiveControl())); entry != nullptr)
+        entry->finishComposition();
     ControlPeer* peer = peer_.peerAround(&widget);
     if (peer == nullptr || peer->control() == nullptr) return false;
     return peer->mousePressed(event, widget);

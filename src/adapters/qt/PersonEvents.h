@@ -1,5 +1,7 @@
 #pragma once
 
+#include "adapters/qt/MenuKeys.h"
+
 #include <QObject>
 
 class QKeyEvent;
@@ -26,6 +28,7 @@ private:
     [[nodiscard]] bool move(QWidget& widget, QMouseEvent& event);
 
     FormPeer& peer_;
+    MenuKeys menuKeys_;
     bool eatsRelease_ = false;
 };
 

@@ -1,16 +1,11 @@
 #include "adapters/qt/Style.h"
 
-#include "adapters/qt/QtText.h"
-#include "adapters/qt/StyleSheet.h"
-
-#include "platform/files/Files.h"
-
 #include <QApplication>
-#include <QDebug>
-#include <QFile>
 #include <QProxyStyle>
 #include <QStringList>
 #include <QWidget>
+
+#include <utility>
 
 namespace quillmere::qt::style {
 
@@ -29,23 +24,27 @@ public:
     }
 };
 
-QPalette palette() {
+QPalette palette(const Colours& skin) {
     QPalette colours;
-    colours.setColor(QPalette::Window, ground);
-    colours.setColor(QPalette::WindowText, text);
-    colours.setColor(QPalette::Base, card);
-    colours.setColor(QPalette::AlternateBase, quietGround);
-    colours.setColor(QPalette::Text, text);
-    colours.setColor(QPalette::Button, card);
-    colours.setColor(QPalette::ButtonText, text);
-    colours.setColor(QPalette::Highlight, accent);
-    colours.setColor(QPalette::HighlightedText, card);
-    colours.setColor(QPalette::PlaceholderText, mutedText);
-    colours.setColor(QPalette::ToolTipBase, card);
-    colours.setColor(QPalette::ToolTipText, text);
-    colours.setColor(QPalette::Disabled, QPalette::WindowText, mutedText);
-    colours.setColor(QPalette::Disabled, QPalette::Text, mutedText);
-    colours.setColor(QPalette::Disabled, QPalette::ButtonText, disabledIcon);
+    colours.setColor(QPalette::Window, skin.ground);
+    colours.setColor(QPalette::WindowText, skin.text);
+    colours.setColor(QPalette::Base, skin.card);
+    colours.setColor(QPalette::AlternateBase, skin.quiet);
+    colours.setColor(QPalette::Text, skin.text);
+    colours.setColor(QPalette::Button, skin.card);
+    colours.setColor(QPalette::ButtonText, skin.text);
+    colours.setColor(QPalette::BrightText, skin.text);
+    colours.setColor(QPalette::Link, skin.focus);
+    colours.setColor(QPalette::Mid, skin.cardBorder);
+    colours.setColor(QPalette::Dark, skin.fieldBorder);
+    colours.setColor(QPalette::Highlight, skin.accent);
+    colours.setColor(QPalette::HighlightedText, skin.accentText);
+    colours.setColor(QPalette::PlaceholderText, skin.mutedText);
+    colours.setColor(QPalette::ToolTipBase, skin.popup);
+    colours.setColor(QPalette::ToolTipText, skin.text);
+    colours.setColor(QPalette::Disabled, QPalette::WindowText, skin.disabledText);
+    colours.setColor(QPalette::Disabled, QPalette::Text, skin.disabledText);
+    colours.setColor(QPalette::Disabled, QPalette::ButtonText, skin.paleText);
     return colours;
 }
 
@@ -56,30 +55,35 @@ QFont typeface() {
     return font;
 }
 
+Skin& worn() {
+    static Skin skin = Skin::light();
+    return skin;
+}
+
 } // namespace
+
+const Colours& colours() { return worn().colours(); }
+
+SkinKeeper::SkinKeeper() : kept_(worn()) {}
+
+SkinKeeper::~SkinKeeper() { worn() = std::move(kept_); }
 
 void dress(QWidget& window) {
     window.setFont(typeface());
-    window.setPalette(palette());
-    window.setProperty("role", "window");
-    window.setStyleSheet(QString::fromUtf8(styleSheet));
+    window.setPalette(palette(colours()));
+    if (window.property("role").isNull()) window.setProperty("role", "window");
+    if (worn().sheet() != window.styleSheet()) window.setStyleSheet(worn().sheet());
 }
 
 void applySkin(QWidget& window, const std::string& path) {
-    QString sheet = QString::fromUtf8(styleSheet);
-    if (!path.empty()) {
-        QFile file(toQt(files::native(path)));
-        if (file.open(QIODevice::ReadOnly))
-            sheet += QString::fromUtf8(file.readAll());
-        else
-            qWarning("Quillmere: no skin at %s", path.c_str());
-    }
-    if (sheet != window.styleSheet()) window.setStyleSheet(sheet);
+    if (path.empty()) return;
+    worn() = Skin::fromFile(path);
+    dress(window);
 }
 
 void dressOwnApplication() {
     QApplication::setStyle(new QuietFusion);
-    QApplication::setPalette(palette());
+    QApplication::setPalette(palette(Skin::light().colours()));
     QApplication::setFont(typeface());
     QApplication::setApplicationDisplayName(QString());
 }
@@ -87,11 +91,13 @@ void dressOwnApplication() {
 QColor toQColor(ui::Colour colour) {
     switch (colour) {
     case ui::colour::window:
-        return card;
+        return colours().field;
     case ui::colour::buttonShadow:
-        return mutedText;
+        return colours().mutedText;
     case ui::colour::buttonText:
-        return text;
+        return colours().text;
+    case ui::colour::codedField:
+        return colours().coded;
     default:
         break;
     }
@@ -108,7 +114,7 @@ QString legendMarkup(const QStringList& lines) {
             markup += QStringLiteral("<b>%1</b>").arg(line);
         else if (i == 1)
             markup += QStringLiteral("<span style='color:%1'>■</span>&nbsp;%2")
-                          .arg(QStringLiteral("#8DBBF4"), line);
+                          .arg(colours().codedSwatch.name(), line);
         else
             markup += line;
     }

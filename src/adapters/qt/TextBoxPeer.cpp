@@ -12,6 +12,7 @@
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QToolButton>
 
 #include <algorithm>
 #include <array>
@@ -31,16 +32,16 @@ public:
 
 protected:
     void inputMethodEvent(QInputMethodEvent* event) override {
-        const QString composed = event->commitString();
-        if (composed.isEmpty()) {
-            QLineEdit::inputMethodEvent(event);
-            return;
-        }
-        // The composition ends without a text of its own; what it gave is typed.
-        QInputMethodEvent ending(event->preeditString(), event->attributes());
-        ending.setCommitString(QString(), event->replacementStart(), event->replacementLength());
-        QLineEdit::inputMethodEvent(&ending);
-        guarded([&] { peer->enterTyped(composed); });
+        guarded([&] {
+            peer->compose(*event, [this](QInputMethodEvent& part) { QLineEdit::inputMethodEvent(&part); });
+        });
+    }
+
+    void focusOutEvent(QFocusEvent* event) override {
+        QLineEdit::focusOutEvent(event);
+        const bool back =
+            event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
+        if (!back) guarded([this] { peer->dropComposition(); });
     }
 
     void mouseReleaseEvent(QMouseEvent* event) override {
@@ -149,6 +150,8 @@ void TextBoxPeer::showLooks() {
     }
     codes_ = editor().addAction(icons::icon(icons::Glyph::Ellipsis), QLineEdit::TrailingPosition);
     codes_->setToolTip(QStringLiteral("选择代码 (F2)"));
+    for (auto* button : editor().findChildren<QToolButton*>())
+        button->setAccessibleName(QStringLiteral("选择代码"));
     connect(codes_, &QAction::triggered, this, [this] { guarded([this] { openCodes(); }); });
 }
 

@@ -7,8 +7,12 @@
 #include "platform/text/Text.h"
 
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QGuiApplication>
+#include <QInputMethod>
+#include <QInputMethodEvent>
 
+#include <algorithm>
 #include <utility>
 
 namespace quillmere::qt {
@@ -40,6 +44,62 @@ void TextEntry::enterTyped(const QString& text) {
     });
 }
 
+void TextEntry::compose(QInputMethodEvent& event, const std::function<void(QInputMethodEvent&)>& base) {
+    if (control() == nullptr || box().Locked()) {
+        const QString refused = event.commitString();
+        base(event);
+        if (control() != nullptr && !refused.isEmpty()) enterTyped(refused);
+        return;
+    }
+    const QString composed = event.commitString();
+    const bool replaces = event.replacementLength() != 0;
+    if (!composing_ && composed.isEmpty() && event.preeditString().isEmpty() && !replaces) {
+        base(event);
+        return;
+    }
+    if (!composing_) composedOver_ = box().Text();
+    composing_ = true;
+    if (composed.isEmpty() && !replaces) {
+        base(event);
+        if (event.preeditString().isEmpty()) endComposition();
+        return;
+    }
+    // The composition ends without a text of its own; what it gave is typed.
+    const int replacedFrom = std::max(0, selectionStart() + event.replacementStart());
+    QInputMethodEvent ending;
+    ending.setCommitString(QString(), event.replacementStart(), event.replacementLength());
+    base(ending);
+    composing_ = false;
+    if (replaces) {
+        showSelection(replacedFrom, 0);
+        follow();
+    } else {
+        showModel();
+    }
+    enterTyped(composed);
+    if (event.preeditString().isEmpty() || control() == nullptr) return;
+    QInputMethodEvent next(event.preeditString(), event.attributes());
+    compose(next, base);
+}
+
+void TextEntry::endComposition() {
+    composing_ = false;
+    showModel();
+}
+
+void TextEntry::finishComposition() {
+    if (!composing_) return;
+    if (widget()->hasFocus()) QGuiApplication::inputMethod()->commit();
+    dropComposition();
+}
+
+void TextEntry::dropComposition() {
+    if (composing_ && widget()->hasFocus()) QGuiApplication::inputMethod()->reset();
+    if (!composing_) return;
+    QInputMethodEvent nothing;
+    QCoreApplication::sendEvent(widget(), &nothing);
+}
+
 void TextEntry::enterPasted(const QString& text) {
     form().perform([&] {
         if (control() != nullptr && !box().Locked()) enter(text);
@@ -65,7 +125,7 @@ void TextEntry::enterLineBreak() {
 }
 
 void TextEntry::follow() {
-    if (mirroring_ || control() == nullptr) return;
+    if (mirroring_ || composing_ || control() == nullptr) return;
     const QString shown = shownText();
     const auto caret = text::length(toModel(shown.left(selectionStart())));
     std::string edited = toModel(shown);
@@ -81,6 +141,9 @@ void TextEntry::openCodes() {
 }
 
 bool TextEntry::keyPressed(QKeyEvent& event) {
+    const bool meansSomething = strokeOf(event).has_value() || !typedText(event).isEmpty();
+    if (meansSomething) finishComposition();
+    if (control() == nullptr) return true;
     if (opensCodes(event) && isCoded()) {
         openCodes();
         return true;
@@ -120,20 +183,29 @@ bool TextEntry::mousePressed(QMouseEvent& event, QWidget& target) {
     return true;
 }
 
+void TextEntry::showModel() {
+    if (control() == nullptr) return;
+    const bool nested = std::exchange(mirroring_, true);
+    const QString text = fromModel(box().Text());
+    // An equal text stays, and with it what can be undone.
+    if (text != shownText()) showText(text);
+    const std::string before = text::left(box().Text(), box().SelStart());
+    const std::string inside = text::mid(box().Text(), box().SelStart() + 1, box().SelLength());
+    showSelection(static_cast<int>(fromModel(before).size()), static_cast<int>(fromModel(inside).size()));
+    mirroring_ = nested;
+}
+
 void TextEntry::mirror(ui::Property property) {
     switch (property) {
     case ui::Property::Text:
-    case ui::Property::Selection: {
-        const bool nested = std::exchange(mirroring_, true);
-        const QString text = fromModel(box().Text());
-        // An equal text stays, and with it an input that is being composed and what can be undone.
-        if (text != shownText()) showText(text);
-        const std::string before = text::left(box().Text(), box().SelStart());
-        const std::string inside = text::mid(box().Text(), box().SelStart() + 1, box().SelLength());
-        showSelection(static_cast<int>(fromModel(before).size()), static_cast<int>(fromModel(inside).size()));
-        mirroring_ = nested;
+    case ui::Property::Selection:
+        // What is being composed stays, unless the text is no longer the one that it goes into.
+        if (composing_ && box().Text() == composedOver_) break;
+        if (composing_)
+            dropComposition();
+        else
+            showModel();
         break;
-    }
     case ui::Property::Locked:
     case ui::Property::BackColor:
         showLooks();

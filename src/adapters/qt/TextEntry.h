@@ -6,6 +6,10 @@
 
 #include <QString>
 
+#include <functional>
+
+class QInputMethodEvent;
+
 namespace quillmere::qt {
 
 /// What the boxes for text on one line and on many have in common: the toolkit edits, and each
@@ -16,6 +20,13 @@ public:
 
     /// Enters what was typed or composed: what the filters leave of it, as far as there is room.
     void enterTyped(const QString& text);
+    /// One event of an input method, which `base` gives to the native editor. A composition under way
+    /// is the editor's alone: the model hears of what comes of it when it ends.
+    void compose(QInputMethodEvent& event, const std::function<void(QInputMethodEvent&)>& base);
+    /// Lets the input method finish a composition under way; what it leaves unfinished is dropped.
+    void finishComposition();
+    /// Takes a composition that is under way off the screen.
+    void dropComposition();
     /// Enters a text that is not typed and passes no filter.
     void enterPasted(const QString& text);
     /// The native editor has changed its text or its caret: the model follows.
@@ -23,6 +34,8 @@ public:
 
     /// Opens the list behind a coded field.
     void openCodes();
+    /// Whether the box takes its text from a list of codes.
+    [[nodiscard]] bool isCoded() const;
 
     bool keyPressed(QKeyEvent& event) override;
     bool mousePressed(QMouseEvent& event, QWidget& target) override;
@@ -30,7 +43,6 @@ public:
 
 protected:
     [[nodiscard]] ui::TextBox& box() const { return as<ui::TextBox>(); }
-    [[nodiscard]] bool isCoded() const;
     void mirror(ui::Property property) override;
 
     // The native editor. Texts have its own line breaks.
@@ -57,8 +69,14 @@ private:
     [[nodiscard]] char32_t admit(char32_t character);
     void enter(const QString& text);
     void enterBackspace();
+    /// The editor shows the model's text and selection again.
+    void showModel();
+    void endComposition();
 
     bool mirroring_ = false;
+    bool composing_ = false;
+    /// The model's text when the composition began.
+    std::string composedOver_;
 };
 
 } // namespace quillmere::qt

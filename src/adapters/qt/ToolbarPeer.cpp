@@ -1,5 +1,6 @@
 #include "adapters/qt/ToolbarPeer.h"
 
+#include "adapters/qt/AccessibleRoles.h"
 #include "adapters/qt/FormPeer.h"
 #include "adapters/qt/Guard.h"
 #include "adapters/qt/Icons.h"
@@ -15,6 +16,7 @@ namespace quillmere::qt {
 
 ToolbarPeer::ToolbarPeer(FormPeer& form, ui::Control& control)
     : ControlPeer(form, control, new QWidget(&form.window())) {
+    readAs(*widget(), QAccessible::ToolBar);
     auto* row = new QHBoxLayout(widget());
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(4);

@@ -7,22 +7,12 @@ namespace quillmere::qt {
 
 void TreeModel::reload() {
     beginResetModel();
-    rows_.clear();
-    const auto number = [this](const std::vector<ui::TreeView::Node*>& siblings) {
-        int row = 0;
-        for (const ui::TreeView::Node* node : siblings)
-            rows_[node] = row++;
-    };
-    number(tree_->roots());
-    for (const auto& node : tree_->nodes())
-        number(node->children);
     endResetModel();
 }
 
 QModelIndex TreeModel::indexOf(const ui::TreeView::Node* node) const {
-    const auto found = rows_.find(node);
-    if (found == rows_.end()) return {};
-    return createIndex(found->second, 0, const_cast<ui::TreeView::Node*>(node));
+    if (node == nullptr) return {};
+    return createIndex(static_cast<int>(node->index), 0, const_cast<ui::TreeView::Node*>(node));
 }
 
 ui::TreeView::Node* TreeModel::nodeOf(const QModelIndex& index) {
@@ -48,6 +38,11 @@ int TreeModel::rowCount(const QModelIndex& parent) const {
 }
 
 int TreeModel::columnCount(const QModelIndex& /*parent*/) const { return 1; }
+
+QVariant TreeModel::headerData(int /*section*/, Qt::Orientation orientation, int role) const {
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+    return QStringLiteral("名称");
+}
 
 QVariant TreeModel::data(const QModelIndex& index, int role) const {
     if (!index.isValid()) return {};

@@ -4,16 +4,12 @@
 
 #include <QAbstractItemModel>
 
-#include <unordered_map>
-
 namespace quillmere::qt {
 
 /// The nodes of a tree, as a Qt view asks for them: nothing is copied.
 class TreeModel final : public QAbstractItemModel {
 public:
-    TreeModel(const ui::TreeView& tree, QObject* parent) : QAbstractItemModel(parent), tree_(&tree) {
-        reload();
-    }
+    TreeModel(const ui::TreeView& tree, QObject* parent) : QAbstractItemModel(parent), tree_(&tree) {}
 
     /// Takes the nodes over anew.
     void reload();
@@ -26,12 +22,13 @@ public:
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    /// The heading does not show, but is read out.
+    [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
     [[nodiscard]] const std::vector<ui::TreeView::Node*>& childrenOf(const QModelIndex& parent) const;
 
     const ui::TreeView* tree_;
-    std::unordered_map<const ui::TreeView::Node*, int> rows_;
 };
 
 } // namespace quillmere::qt

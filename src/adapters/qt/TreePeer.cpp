@@ -28,7 +28,7 @@ protected:
         QRect place(0, 0, side, side);
         place.moveCenter({area.right() - indentStep / 2 + 1, area.center().y()});
         const auto glyph = isExpanded(index) ? icons::Glyph::ChevronDown : icons::Glyph::ChevronRight;
-        icons::paint(*painter, glyph, place, style::mutedText);
+        icons::paint(*painter, glyph, place, style::colours().mutedText);
     }
 };
 
@@ -46,7 +46,7 @@ TreePeer::TreePeer(FormPeer& form, ui::Control& control)
     view().setTabKeyNavigation(false);
     view().setExpandsOnDoubleClick(false);
     view().setEditTriggers(QAbstractItemView::NoEditTriggers);
-    showExpansion();
+    openAll();
     showSelection();
 }
 
@@ -54,34 +54,41 @@ QTreeView& TreePeer::view() const { return *static_cast<QTreeView*>(widget()); }
 
 ui::TreeView& TreePeer::tree() const { return as<ui::TreeView>(); }
 
-void TreePeer::showExpansion() {
+void TreePeer::openAll() {
     for (const auto& node : tree().nodes()) {
-        if (node->children.empty()) continue;
-        const QModelIndex index = model_->indexOf(node.get());
-        if (view().isExpanded(index) != node->expanded) view().setExpanded(index, node->expanded);
+        if (node->expanded && !node->children.empty()) view().expand(model_->indexOf(node.get()));
     }
 }
 
+void TreePeer::showExpansion(const ui::TreeView::Node& node) {
+    if (node.children.empty()) return;
+    const QModelIndex index = model_->indexOf(&node);
+    if (view().isExpanded(index) != node.expanded) view().setExpanded(index, node.expanded);
+}
+
 void TreePeer::showSelection() {
-    const QModelIndex index = model_->indexOf(tree().SelectedItem());
+    const ui::TreeView::Node* selected = tree().SelectedItem();
+    const QModelIndex index = model_->indexOf(selected);
     if (view().currentIndex() == index) return;
-    // Qt opens what hides the current node; the model says what is open.
-    if (index.isValid())
-        view().setCurrentIndex(index);
-    else
+    if (!index.isValid()) {
         view().selectionModel()->clear();
-    showExpansion();
+        return;
+    }
+    view().setCurrentIndex(index);
+    // Qt has opened whatever hid the node; the model says what is open.
+    for (const ui::TreeView::Node* above = selected->parent; above != nullptr; above = above->parent)
+        showExpansion(*above);
 }
 
 void TreePeer::mirror(ui::Property property) {
     switch (property) {
     case ui::Property::Items:
         model_->reload();
-        showExpansion();
+        openAll();
         showSelection();
         break;
     case ui::Property::Rows:
-        showExpansion();
+        if (const auto* toggled = tree().lastToggled(); toggled != nullptr) showExpansion(*toggled);
         break;
     case ui::Property::Current:
         showSelection();
@@ -98,12 +105,9 @@ bool TreePeer::keyPressed(QKeyEvent& event) {
     case Qt::Key_Home:
         target = model_->index(0, 0);
         break;
-    case Qt::Key_End: {
-        target = view().currentIndex();
-        for (QModelIndex below = target; below.isValid(); below = view().indexBelow(below))
-            target = below;
+    case Qt::Key_End:
+        target = model_->indexOf(tree().lastShown());
         break;
-    }
     case Qt::Key_PageUp:
     case Qt::Key_PageDown: {
         target = view().currentIndex();

@@ -21,7 +21,9 @@ protected:
 private:
     [[nodiscard]] QTreeView& view() const;
     [[nodiscard]] ui::TreeView& tree() const;
-    void showExpansion();
+    /// Opens what is open in the model, in a view in which nothing is open yet.
+    void openAll();
+    void showExpansion(const ui::TreeView::Node& node);
     void showSelection();
     void toggle(ui::TreeView::Node& node);
 

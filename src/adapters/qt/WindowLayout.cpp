@@ -45,6 +45,8 @@ QWidget* makeTopBar(FormPeer& form) {
 
 void layOutWindow(FormPeer& form) {
     auto* column = new QVBoxLayout(&form.window());
+    // A panel that needs more room must not make the window larger than the screen.
+    column->setSizeConstraint(QLayout::SetNoConstraint);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(0);
     column->addWidget(makeTopBar(form));

@@ -103,6 +103,14 @@ void Mask::type(State& state, char32_t character) const {
     if (literal != std::u32string::npos) state.caret = literal + 1;
 }
 
+std::size_t Mask::pointed(std::u32string_view text, std::size_t position) const {
+    if (!hasShape(text) || nextDigitPosition(position) < mask_.size()) return position;
+    std::size_t open = 0;
+    while (open < mask_.size() && !(takesDigit(open) && text[open] == prompt_))
+        ++open;
+    return open < mask_.size() ? open : position;
+}
+
 void Mask::backspace(State& state) const {
     fit(state);
     if (state.selected != 0) {

@@ -33,6 +33,10 @@ public:
     /// was copied from a box of this mask replaces the whole; a text without a digit changes nothing.
     void paste(State& state, std::u32string_view text) const;
 
+    /// Where the caret goes when a person points behind the last place for a digit: to the first place
+    /// that is still open, since there all that is typed would be lost. Any other position stays.
+    [[nodiscard]] std::size_t pointed(std::u32string_view text, std::size_t position) const;
+
     [[nodiscard]] static bool isDigit(char32_t character);
     /// The ASCII form of a full-width digit.
     [[nodiscard]] static char32_t toDigit(char32_t character);

@@ -31,6 +31,10 @@ void MaskEdBox::setSelection(std::size_t start, std::size_t length) {
     if (wanted.start != selection_.start || wanted.length != selection_.length) select(wanted);
 }
 
+void MaskEdBox::pointByPerson(std::size_t position) {
+    setSelStart(mask_.pointed(text::decode(text_), position));
+}
+
 void MaskEdBox::select(const Selection& selection) {
     if (selection == selection_) return;
     selection_ = selection;

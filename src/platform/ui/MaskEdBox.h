@@ -25,6 +25,8 @@ public:
     [[nodiscard]] std::size_t SelStart() const { return selection_.start; }
     [[nodiscard]] std::size_t SelLength() const { return selection_.length; }
     void setSelStart(std::size_t start) { setSelection(start, 0); }
+    /// A person points before the character at that position with the mouse.
+    void pointByPerson(std::size_t position);
     /// Cut to the text.
     void setSelection(std::size_t start, std::size_t length);
 

@@ -28,6 +28,7 @@ TreeView::Node* TreeView::find(std::string_view key) const {
 
 void TreeView::clear() {
     selected_ = nullptr;
+    toggled_ = nullptr;
     byKey_.clear();
     roots_.clear();
     nodes_.clear();
@@ -43,6 +44,7 @@ void TreeView::setSelectedItem(Node* node) {
 void TreeView::setExpanded(Node& node, bool expanded) {
     if (node.expanded == expanded) return;
     node.expanded = expanded;
+    toggled_ = &node;
     notify(Property::Rows);
     if (expanded) return;
     // A selection that would no longer show moves up to the node that closed over it.
@@ -50,6 +52,14 @@ void TreeView::setExpanded(Node& node, bool expanded) {
          above = above->parent) {
         if (above == &node) return setSelectedItem(&node);
     }
+}
+
+TreeView::Node* TreeView::lastShown() const {
+    if (roots_.empty()) return nullptr;
+    Node* last = roots_.back();
+    while (last->expanded && !last->children.empty())
+        last = last->children.back();
+    return last;
 }
 
 const std::vector<TreeView::Node*>& TreeView::siblingsOf(const Node& node) const {

@@ -42,6 +42,10 @@ public:
     [[nodiscard]] Node* SelectedItem() const { return selected_; }
     void setSelectedItem(Node* node);
     void setExpanded(Node& node, bool expanded);
+    /// The node that `setExpanded` opened or closed last, none since the last clearing.
+    [[nodiscard]] const Node* lastToggled() const { return toggled_; }
+    /// The lowest of the nodes that show, none in an empty tree.
+    [[nodiscard]] Node* lastShown() const;
     /// In the toolkit's own units.
     [[nodiscard]] double Indentation() const { return indentation_; }
     void setIndentation(double indentation) { indentation_ = indentation; }
@@ -62,6 +66,7 @@ private:
     std::vector<Node*> roots_;
     std::unordered_map<std::string, Node*> byKey_;
     Node* selected_ = nullptr;
+    const Node* toggled_ = nullptr;
     double indentation_ = 0;
 };
 
