@@ -125,8 +125,19 @@ void Player::work(ui::Form& form) {
     }
 }
 
-std::string Player::argumentOf(std::string_view command, const std::string& front) {
-    const Words words = take();
+Words Player::takeBehindShots() {
+    Words words = take();
+    for (; !words.empty() && words.front() == "shot"; words = take()) {
+        try {
+            run(words);
+        } catch (const Stop& reason) {
+            breakOff(reason, script_.lastNumber());
+        }
+    }
+    return words;
+}
+
+std::string Player::argumentOf(std::string_view command, const std::string& front, const Words& words) {
     if (words.empty()) breakOff({"the script ends with " + front}, script_.lastNumber());
     if (words.front() != command)
         breakOff({words.front() + " cannot be done with " + front}, script_.lastNumber());
@@ -137,7 +148,7 @@ std::string Player::argumentOf(std::string_view command, const std::string& fron
 ui::Answer Player::answer(const ui::MessageBox& box) {
     scene_.out.line("MSG " + box.title + "|" + box.text + "|" + std::string(nameOf(box.buttons)) + "|" +
                     std::string(nameOf(box.icon)));
-    const std::string button = argumentOf("answer", "a message box in front");
+    const std::string button = argumentOf("answer", "a message box in front", takeBehindShots());
     const bool yesNo = box.buttons == ui::Buttons::YesNo;
     if (button == "ok" && !yesNo) return ui::Answer::Ok;
     if (button == "yes" && yesNo) return ui::Answer::Yes;
@@ -147,7 +158,7 @@ ui::Answer Player::answer(const ui::MessageBox& box) {
 
 std::string Player::choose(const ui::FileDialog& dialog) {
     scene_.out.line("FILEDIALOG " + dialog.filter + "|" + dialog.directory);
-    const std::string name = argumentOf("choose", "a file dialog in front");
+    const std::string name = argumentOf("choose", "a file dialog in front", take());
     return name == "none" ? std::string() : scene_.photos.pathOf(name);
 }
 

@@ -36,8 +36,11 @@ private:
     /// The next command, when there is one.
     bool step();
     void run(const Words& words);
-    /// The argument of the one command that an open box or dialog takes.
-    [[nodiscard]] std::string argumentOf(std::string_view command, const std::string& front);
+    /// The next command that takes no picture of what is in front; those that do are run.
+    [[nodiscard]] Words takeBehindShots();
+    /// The argument of the one command that an open box or dialog takes, out of the words of a line.
+    [[nodiscard]] std::string argumentOf(std::string_view command, const std::string& front,
+                                         const Words& words);
     /// Ends the script: from now on nothing is printed and no line is read.
     [[noreturn]] void breakOff(Stop stop, int line);
 

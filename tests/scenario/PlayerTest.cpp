@@ -56,6 +56,16 @@ TEST_F(PlayerTest, AnAnswerPressesItsButton) {
     EXPECT_EQ(answer("answer no", {"", "", ui::Buttons::YesNo}), ui::Answer::No);
 }
 
+TEST_F(PlayerTest, ABoxStandsForPicturesUntilItsAnswer) {
+    EXPECT_EQ(answer("shot asked\nshot again\nanswer yes", {"", "", ui::Buttons::YesNo}), ui::Answer::Yes);
+    EXPECT_EQ(out.str(), "MSG ||yesno|none\n> shot asked\n> shot again\n> answer yes\n");
+}
+
+TEST_F(PlayerTest, APictureOfABoxNeedsItsName) {
+    EXPECT_THROW((void)answer("shot\nanswer ok", {}), Stop);
+    EXPECT_THROW((void)answer("shot asked", {}), Stop);
+}
+
 TEST_F(PlayerTest, AFileDialogIsShownAndTakesANameOrNone) {
     const ui::FileDialog dialog{"图片|*.jpg", "photos"};
     EXPECT_EQ(choose("choose a.jpg", dialog), "a.jpg");
