@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cctype>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -70,6 +72,143 @@ std::vector<std::string> linksOf(std::string document) {
         if (!path.empty() && path.find("://") == std::string::npos) found.push_back(path);
     }
     return found;
+}
+
+// What the clerk's guide quotes is what the system says, and what the system says is told there.
+
+const fs::path clerksGuide = root / u8"docs/用户手册.md";
+
+using Texts = std::vector<std::string>;
+
+/// The string at `at`, which stands on its opening quote; `at` is left behind the closing one.
+std::string stringAt(const std::string& source, std::size_t& at) {
+    std::string text;
+    for (++at; source[at] != '"'; ++at) {
+        if (source[at] == '\\') ++at;
+        text += source[at];
+    }
+    ++at;
+    return text;
+}
+
+/// The strings of a source without those of its comments; neighbours are one string.
+Texts stringsOf(const std::string& source) {
+    Texts found;
+    bool joined = false;
+    for (std::size_t at = 0; at < source.size();) {
+        if (source.compare(at, 2, "//") == 0) {
+            at = std::min(source.find('\n', at), source.size());
+        } else if (source[at] == '\'' &&
+                   (at == 0 || std::isxdigit(static_cast<unsigned char>(source[at - 1])) == 0)) {
+            at = source.find('\'', at + (source[at + 1] == '\\' ? 3 : 2)) + 1;
+            joined = false;
+        } else if (source[at] == '"') {
+            const std::string text = stringAt(source, at);
+            if (joined)
+                found.back() += text;
+            else
+                found.push_back(text);
+            joined = true;
+        } else {
+            if (std::isspace(static_cast<unsigned char>(source[at])) == 0) joined = false;
+            ++at;
+        }
+    }
+    return found;
+}
+
+/// The strings of every source below a folder, but not below one that is called `without`.
+Texts stringsBelow(const fs::path& folder, const std::string& without = {}) {
+    Texts found;
+    for (auto entry = fs::recursive_directory_iterator(folder); entry != fs::recursive_directory_iterator();
+         ++entry) {
+        if (entry->path().filename() == without) entry.disable_recursion_pending();
+        const fs::path kind = entry->path().extension();
+        if (kind != ".cpp" && kind != ".h") continue;
+        const Texts texts = stringsOf(contents(entry->path()));
+        found.insert(found.end(), texts.begin(), texts.end());
+    }
+    return found;
+}
+
+/// What stands between the two marks, each time.
+Texts between(const std::string& document, const std::string& opening, const std::string& closing) {
+    Texts found;
+    for (std::size_t at = document.find(opening); at != std::string::npos; at = document.find(opening, at)) {
+        at += opening.size();
+        found.push_back(document.substr(at, document.find(closing, at) - at));
+    }
+    return found;
+}
+
+/// A caption as it is read on a button.
+std::string withoutMarks(const std::string& caption) {
+    std::string text = caption.substr(0, caption.find("(&"));
+    std::erase(text, ' ');
+    return text;
+}
+
+bool endsAsAMessage(const std::string& text) {
+    return text.ends_with("？") || text.ends_with("！") || text.ends_with("。");
+}
+
+TEST(GuideTest, WhatTheClerksGuideQuotesStandsInTheSystem) {
+    const Texts said = stringsBelow(root / "src");
+    const Texts quoted = between(contents(clerksGuide), "「", "」");
+    for (const std::string& text : quoted) {
+        const auto says = [&](const std::string& each) { return each.find(text) != std::string::npos; };
+        EXPECT_TRUE(!text.empty() && std::ranges::any_of(said, says)) << text;
+    }
+    EXPECT_GT(quoted.size(), 80U);
+}
+
+TEST(GuideTest, TheButtonsOfTheClerksGuideAreThoseOfTheSystem) {
+    const Texts said = stringsBelow(root / "src");
+    const Texts named = between(contents(clerksGuide), "【", "】");
+    for (const std::string& button : named) {
+        const auto bears = [&](const std::string& each) { return withoutMarks(each) == button; };
+        EXPECT_TRUE(std::ranges::any_of(said, bears)) << button;
+    }
+    EXPECT_GT(named.size(), 40U);
+}
+
+TEST(GuideTest, TheFirstColumnOfMessagesInTheClerksGuideIsQuoted) {
+    std::istringstream lines(contents(clerksGuide));
+    bool ofMessages = false;
+    int rows = 0;
+    for (std::string line; std::getline(lines, line);) {
+        if (!line.starts_with("|")) ofMessages = false;
+        if (line.starts_with("| 提示")) {
+            ofMessages = true;
+        } else if (ofMessages && !line.starts_with("| ---")) {
+            EXPECT_TRUE(line.starts_with("| 「")) << line;
+            ++rows;
+        }
+    }
+    EXPECT_GT(rows, 30);
+}
+
+TEST(GuideTest, TheClerksGuideTellsEveryMessageOfTheSystem) {
+    const std::string guide = contents(clerksGuide);
+    std::size_t count = 0;
+    for (const char* folder : {"metadata", "binding", "photos", "panels", "save", "shell"}) {
+        // The catalogue of panels has titles, no messages.
+        for (std::string text : stringsBelow(root / "src" / folder, "catalogue")) {
+            text.erase(text.find_last_not_of(' ') + 1);
+            if (!endsAsAMessage(text)) continue;
+            EXPECT_NE(guide.find(text), std::string::npos) << text;
+            ++count;
+        }
+    }
+    EXPECT_GT(count, 35U);
+}
+
+TEST(GuideTest, EveryPictureIsShownByADocument) {
+    std::string documents = contents(root / "README.md");
+    for (const auto& entry : fs::directory_iterator(root / "docs"))
+        if (entry.path().extension() == ".md") documents += contents(entry.path());
+    for (const auto& entry : fs::directory_iterator(root / "docs/images"))
+        EXPECT_NE(documents.find("images/" + entry.path().filename().string()), std::string::npos) << entry;
 }
 
 TEST(GuideTest, EveryLinkLeadsToAFile) {
