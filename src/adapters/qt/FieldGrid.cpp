@@ -98,14 +98,45 @@ private:
     int column_ = 0;
 };
 
+namespace {
+
+std::vector<QObject*> partsOf(const Field& field) {
+    std::vector<QObject*> parts{field.editor};
+    if (field.caption != nullptr) parts.push_back(field.caption);
+    if (field.unit != nullptr) parts.push_back(field.unit);
+    return parts;
+}
+
+} // namespace
+
 FieldGrid::FieldGrid(const std::vector<Field>& fields) : all_(fields) {
     setProperty("role", "fields");
     for (const Field& field : all_) {
         prepare(field);
         field.editor->widget()->installEventFilter(this);
+        for (QObject* part : partsOf(field))
+            connect(part, &QObject::destroyed, this, [this](const QObject* gone) { forget(gone); });
     }
     findVisible();
     arrange({});
+}
+
+FieldGrid::~FieldGrid() {
+    // The peers go with the widgets that stand here, when nothing is left that could forget them.
+    for (const Field& field : all_) {
+        for (QObject* part : partsOf(field))
+            part->disconnect(this);
+    }
+}
+
+void FieldGrid::forget(const QObject* gone) {
+    for (std::vector<Field>* list : {&all_, &fields_}) {
+        std::erase_if(*list, [gone](const Field& field) { return field.editor == gone; });
+        for (Field& field : *list) {
+            if (field.caption == gone) field.caption = nullptr;
+            if (field.unit == gone) field.unit = nullptr;
+        }
+    }
 }
 
 std::vector<Field> FieldGrid::visibleFields() const {

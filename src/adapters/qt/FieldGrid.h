@@ -16,6 +16,7 @@ namespace quillmere::qt {
 class FieldGrid final : public QWidget {
 public:
     explicit FieldGrid(const std::vector<Field>& fields);
+    ~FieldGrid() override;
 
     /// Something higher than a field that stands in the upper right corner, a photo for example. There
     /// may be no caption.
@@ -45,6 +46,8 @@ private:
     };
 
     void prepare(const Field& field);
+    /// A peer has gone with its control.
+    void forget(const QObject* gone);
     [[nodiscard]] std::vector<Field> visibleFields() const;
     void findVisible();
     [[nodiscard]] int columnsFor(int width) const;
