@@ -72,6 +72,21 @@ TEST_F(InjectionTest, SequencesRunInTheOrderOfInjection) {
     });
 }
 
+TEST_F(InjectionTest, KeysSelectTheContentOfTheNextField) {
+    second.setText("张三丰");
+    first.KeyPress.connect([](char32_t& character) {
+        character = 0;
+        desktop().sendKeys("{tab}");
+        desktop().sendKeys("{Home}+{End}");
+    });
+    onOpenForm([&] {
+        form.typeCharacter(U'x');
+        EXPECT_TRUE(second.hasFocus());
+        EXPECT_EQ(second.SelStart(), 0U);
+        EXPECT_EQ(second.SelLength(), 3U);
+    });
+}
+
 TEST_F(InjectionTest, KeysOfANestedOperationWaitForTheOuterOne) {
     button.Click.connect([&] {
         form.perform([&] { desktop().sendKeys("{home}"); });

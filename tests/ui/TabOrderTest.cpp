@@ -1,6 +1,9 @@
 #include "platform/ui/CheckBox.h"
 #include "platform/ui/CommandButton.h"
+#include "platform/ui/DataGrid.h"
+#include "platform/ui/Frame.h"
 #include "platform/ui/Label.h"
+#include "platform/ui/TabStrip.h"
 #include "platform/ui/TextBox.h"
 #include "platform/ui/UserControl.h"
 #include "support/ScriptedPerson.h"
@@ -87,6 +90,30 @@ TEST_F(TabOrderTest, SkipsWhatIsInvisibleDisabledNoStopOrTakesNoFocus) {
     onOpenForm([&] {
         EXPECT_EQ(stops(), (Names{"a", "b"}));
         EXPECT_EQ(tabs(3), (Names{"a", "b", "a"}));
+    });
+}
+
+TEST_F(TabOrderTest, SkipsAGridWithoutRowsToShowAndWhatStandsInAHiddenFrame) {
+    box("a", 0);
+    form.add<DataGrid>("gridWithoutSource");
+    auto& frame = form.add<Frame>("frame");
+    form.add<TextBox>("inHiddenFrame").setContainer(&frame);
+    form.add<TextBox>("b");
+    frame.setVisible(false);
+    onOpenForm([&] { EXPECT_EQ(stops(), (Names{"a", "b"})); });
+}
+
+TEST_F(TabOrderTest, PassesOverThePagesBehind) {
+    auto& strip = form.add<TabStrip>("strip", Names{"一", "二"});
+    for (int page = 0; page < 2; ++page) {
+        auto& onPage = form.add<TextBox>("page" + std::to_string(page));
+        onPage.setContainer(&strip);
+        onPage.setPage(page);
+    }
+    onOpenForm([&] {
+        EXPECT_EQ(stops(), (Names{"strip", "page0"}));
+        strip.setTab(1);
+        EXPECT_EQ(stops(), (Names{"strip", "page1"}));
     });
 }
 
