@@ -6,7 +6,21 @@ namespace quillmere {
 namespace {
 
 /// The check on leaving a field.
-using FieldValidateTest = test::FieldEventsBench;
+class FieldValidateTest : public test::FieldEventsBench {
+protected:
+    template <class Box>
+    void expectRefused(Box& box, const char* text, const char* complaint) {
+        box.setText(text);
+        person.expectBox(complaint, "错误信息");
+        EXPECT_FALSE(leaveChanged(box));
+    }
+    /// A date of which the month has one digit is completed as the focus goes.
+    void expectCompleted() {
+        panel.date.setText("1990-3_");
+        EXPECT_TRUE(leaveChanged(panel.date));
+        EXPECT_EQ(panel.date.Text(), "1990-03");
+    }
+};
 
 TEST_F(FieldValidateTest, AnUnchangedRecordIsNotChecked) {
     panel.fields.Item("T_plain").Check = "A 1";
@@ -57,9 +71,7 @@ TEST_F(FieldValidateTest, AnEmptyTextBoxIsNotCheckedAlsoWhereItIsRequired) {
 
 TEST_F(FieldValidateTest, ACodedTextBoxIsCheckedByTheNameThatItShows) {
     panel.fields.Item("T_coded").Check = "A 2";
-    panel.coded.setText("主任医师");
-    person.expectBox("栏目coded最多可以录入2个字符！", "错误信息");
-    EXPECT_FALSE(leaveChanged(panel.coded));
+    expectRefused(panel.coded, "主任医师", "栏目coded最多可以录入2个字符！");
 }
 
 TEST_F(FieldValidateTest, ACheckBoxIsNotChecked) { EXPECT_TRUE(leaveChanged(panel.check)); }
@@ -77,51 +89,35 @@ TEST_F(FieldValidateTest, AMaskedBoxWithoutAnyTextIsBlank) {
 }
 
 TEST_F(FieldValidateTest, AHalfFilledDateIsRefusedByItsCaption) {
-    panel.date.setText("199_-__");
-    person.expectBox("栏目date录入数据不规范！", "错误信息");
-    EXPECT_FALSE(leaveChanged(panel.date));
+    expectRefused(panel.date, "199_-__", "栏目date录入数据不规范！");
     EXPECT_EQ(panel.date.Text(), "199_-__");
     EXPECT_EQ(person.boxes()[0].icon, ui::Icon::None);
 }
 
-TEST_F(FieldValidateTest, AHalfFilledDateWhoseRestIsADatePassesReformatted) {
-    panel.date.setText("1990-3_");
-    EXPECT_TRUE(leaveChanged(panel.date));
-    EXPECT_EQ(panel.date.Text(), "1990-03");
-}
+TEST_F(FieldValidateTest, AHalfFilledDateWhoseRestIsADatePassesReformatted) { expectCompleted(); }
 
 TEST_F(FieldValidateTest, TheCheckSeesTheReformattedDateAndTheTextStaysReformatted) {
     panel.fields.Item("T_date").Check = "L 6";
-    panel.date.setText("1990-3_");
-    person.expectBox("栏目date长度应该为6位。", "错误信息");
-    EXPECT_FALSE(leaveChanged(panel.date));
+    expectRefused(panel.date, "1990-3_", "栏目date长度应该为6位。");
     EXPECT_EQ(panel.date.Text(), "1990-03");
 }
 
 TEST_F(FieldValidateTest, ADateThatDoesNotExistIsRefused) {
-    panel.date.setText("1990-13");
-    person.expectBox("栏目date录入数据不规范！", "错误信息");
-    EXPECT_FALSE(leaveChanged(panel.date));
+    expectRefused(panel.date, "1990-13", "栏目date录入数据不规范！");
 }
 
 TEST_F(FieldValidateTest, TheTypeOfADateFieldMayStandInCapitals) {
     panel.fields.Item("T_date").FieldType = "DateTime";
-    panel.date.setText("1990-3_");
-    EXPECT_TRUE(leaveChanged(panel.date));
-    EXPECT_EQ(panel.date.Text(), "1990-03");
+    expectCompleted();
 }
 
 TEST_F(FieldValidateTest, AMaskedNumberWithAGapIsRefusedThoughItsDigitsWouldBeANumber) {
-    panel.number.setText("12_4");
-    person.expectBox("栏目number录入数据不规范！", "错误信息");
-    EXPECT_FALSE(leaveChanged(panel.number));
+    expectRefused(panel.number, "12_4", "栏目number录入数据不规范！");
 }
 
 TEST_F(FieldValidateTest, AMaskedNumberWithoutAGapIsCheckedByItsRule) {
     panel.fields.Item("T_number").Check = "N 3,0";
-    panel.number.setText("1234");
-    person.expectBox("栏目number数据长度应小于3！", "错误信息");
-    EXPECT_FALSE(leaveChanged(panel.number));
+    expectRefused(panel.number, "1234", "栏目number数据长度应小于3！");
 }
 
 TEST_F(FieldValidateTest, AFaultyRuleReachesTheCaller) {

@@ -9,11 +9,7 @@ using Row = test::CheckRow;
 
 class CheckInputBounds : public test::CheckInputTable {};
 
-TEST_P(CheckInputBounds, AnswersWithTheComplaint) {
-    cFieldItem item;
-    fill(item, GetParam());
-    EXPECT_EQ(CheckInput(item, GetParam().text), GetParam().complaint);
-}
+TEST_P(CheckInputBounds, AnswersWithTheComplaint) { test::expectAnswer(GetParam()); }
 
 const Row dates[] = {
     {"UpperIsFiveYearsOn", "B 1900-01,2100-01", "2031-12", "栏目应该在1900-01至2031-11之间。", "datetime",
@@ -41,7 +37,6 @@ const Row dates[] = {
      "datetime", "8", "yyyy-MM-dd"},
     {"NoDateThatHappensToLieBetween", "B 1900-01-01,2100-01-01", "2020-99-99", "", "datetime", "8",
      "yyyy-MM-dd"},
-    {"EmptyFails", "B 1900-01,2100-01", "", "栏目应该在1900-01至2031-11之间。", "datetime", "8", "yyyy-MM"},
     {"OneBoundIsNoTest", "B 1900-01", "0000", "", "datetime", "8", "yyyy-MM"},
     {"ThreeBoundsAreNoTest", "B 1900-01,2000-01,2100-01", "0000", "", "datetime", "8", "yyyy-MM"},
     {"TypeInCapitals", "B 1900-01,2100-01", "1800-01", "栏目应该在1900-01至2031-11之间。", "DateTime", "8",

@@ -43,6 +43,12 @@ inline void fill(cFieldItem& item, const CheckRow& row) {
     item.Style = row.style;
 }
 
+inline void expectAnswer(const CheckRow& row) {
+    cFieldItem item;
+    fill(item, row);
+    EXPECT_EQ(CheckInput(item, row.text), row.complaint);
+}
+
 inline std::string nameOfRow(const testing::TestParamInfo<CheckRow>& info) { return info.param.name; }
 
 } // namespace quillmere::test

@@ -13,11 +13,7 @@ using Row = test::CheckRow;
 
 class CheckInputRules : public test::CheckInputTable {};
 
-TEST_P(CheckInputRules, AnswersWithTheComplaint) {
-    cFieldItem item;
-    fill(item, GetParam());
-    EXPECT_EQ(CheckInput(item, GetParam().text), GetParam().complaint);
-}
+TEST_P(CheckInputRules, AnswersWithTheComplaint) { test::expectAnswer(GetParam()); }
 
 std::string repeated(int count, const char* piece) {
     std::string text;

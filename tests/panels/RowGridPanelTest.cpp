@@ -95,6 +95,14 @@ protected:
     std::string button(const char* stem) const { return std::string(stem) + param.ending; }
     ui::DataGrid& grid() const { return test::controlOf<ui::DataGrid>(window, param.grid); }
 
+    /// The editor of this grid for the project, which adds in mode 1 and modifies in mode 2.
+    void expectEditor(const ui::Form& form, int mode) const {
+        const auto& editor = dynamic_cast<const frmC04&>(form);
+        EXPECT_EQ(editor.Caption(), param.caption);
+        EXPECT_EQ(editor.KeyA00, "p1");
+        EXPECT_EQ(editor.EditMode, mode);
+    }
+
     const GridCase& param = grids()[GetParam()];
     static constexpr const char* question = "您确认删除当前数据吗 ？";
 };
@@ -150,10 +158,7 @@ TEST_P(RowGridPanelTest, AddingOpensAnEmptyEditorForTheProject) {
     db.run(param.insert);
     open(param.panel);
     person.onForm([&](ui::Form& form) {
-        const auto& editor = dynamic_cast<const frmC04&>(form);
-        EXPECT_EQ(editor.Caption(), param.caption);
-        EXPECT_EQ(editor.KeyA00, "p1");
-        EXPECT_EQ(editor.EditMode, 1);
+        expectEditor(form, 1);
         for (const auto& [box, text] : param.boxes) {
             const auto* masked = dynamic_cast<const ui::MaskEdBox*>(form.find(box));
             EXPECT_EQ(textOf(form, box), masked == nullptr ? "" : masked->emptyText()) << box;
@@ -166,10 +171,7 @@ TEST_P(RowGridPanelTest, ModifyingFillsTheEditorFromTheRowOnShow) {
     db.run(param.insert);
     open(param.panel);
     person.onForm([&](ui::Form& form) {
-        const auto& editor = dynamic_cast<const frmC04&>(form);
-        EXPECT_EQ(editor.Caption(), param.caption);
-        EXPECT_EQ(editor.KeyA00, "p1");
-        EXPECT_EQ(editor.EditMode, 2);
+        expectEditor(form, 2);
         EXPECT_EQ(focus(), param.boxes.front().first);
         for (const auto& [box, text] : param.boxes)
             EXPECT_EQ(textOf(form, box), text) << box;

@@ -12,14 +12,21 @@ protected:
     void expectQuestion(ui::Answer answer) {
         person.expectBox("确定替换现有照片文件吗？", "照片预览", answer);
     }
+
+    /// Chooses the new picture and presses OK; true when the dialog closes by that.
+    [[nodiscard]] bool confirmChosen() {
+        bool closed = false;
+        open([&](ui::Form& form) {
+            choose(chosen);
+            press("cmdOK");
+            closed = !form.isOpen();
+        });
+        return closed;
+    }
 };
 
 TEST_F(PreviewConfirmTest, TheFirstPhotoIsWrittenWithoutAnyQuestion) {
-    open([&](ui::Form& form) {
-        choose(chosen);
-        press("cmdOK");
-        EXPECT_FALSE(form.isOpen());
-    });
+    EXPECT_TRUE(confirmChosen());
     EXPECT_EQ(preview->Cancelled, 0);
     EXPECT_EQ(photo(), newPicture);
     EXPECT_EQ(folder.content("new.jpg"), newPicture);
@@ -29,11 +36,7 @@ TEST_F(PreviewConfirmTest, TheFirstPhotoIsWrittenWithoutAnyQuestion) {
 TEST_F(PreviewConfirmTest, ReplacingAPhotoAsksAndYesReplacesIt) {
     folder.write("p1.jpg", oldPicture);
     expectQuestion(ui::Answer::Yes);
-    open([&](ui::Form& form) {
-        choose(chosen);
-        press("cmdOK");
-        EXPECT_FALSE(form.isOpen());
-    });
+    EXPECT_TRUE(confirmChosen());
     EXPECT_EQ(preview->Cancelled, 0);
     EXPECT_EQ(photo(), newPicture);
     ASSERT_EQ(person.boxes().size(), 1U);
@@ -127,11 +130,7 @@ TEST_F(PreviewConfirmTest, ACopyThatFailsIsToldAndTheDialogStaysOpen) {
 TEST_F(PreviewConfirmTest, AFolderThatIsNotThereIsToldWithItsReason) {
     renew(folder.name() + "/missing");
     person.expectBox("更新此人员的照片出错！原因是：路径未找到");
-    open([&](ui::Form& form) {
-        choose(chosen);
-        press("cmdOK");
-        EXPECT_TRUE(form.isOpen());
-    });
+    EXPECT_FALSE(confirmChosen());
     EXPECT_EQ(preview->Cancelled, 1);
 }
 
@@ -140,10 +139,7 @@ TEST_F(PreviewConfirmTest, APhotoThatMayNotBeWrittenIsToldWithItsReason) {
     std::filesystem::permissions(folder / "p1.jpg", std::filesystem::perms::owner_read);
     expectQuestion(ui::Answer::Yes);
     person.expectBox("更新此人员的照片出错！原因是：拒绝的权限");
-    open([&](ui::Form&) {
-        choose(chosen);
-        press("cmdOK");
-    });
+    EXPECT_FALSE(confirmChosen());
     EXPECT_EQ(photo(), oldPicture);
 }
 
@@ -169,19 +165,13 @@ TEST_F(PreviewConfirmTest, TheFrameWritesNothingEither) {
 
 TEST_F(PreviewConfirmTest, AFolderNamedWithABackslashAtItsEndIsWrittenTo) {
     renew(folder.name() + "\\");
-    open([&](ui::Form&) {
-        choose(chosen);
-        press("cmdOK");
-    });
+    EXPECT_TRUE(confirmChosen());
     EXPECT_EQ(preview->TargetPath, folder.name() + "\\\\p1.jpg");
     EXPECT_EQ(photo(), newPicture);
 }
 
 TEST_F(PreviewConfirmTest, TheNextShowingBeginsAfresh) {
-    open([&](ui::Form&) {
-        choose(chosen);
-        press("cmdOK");
-    });
+    EXPECT_TRUE(confirmChosen());
     renew(folder.name());
     open([&](ui::Form&) {
         EXPECT_EQ(label("lblOldPicture"), "当前照片");

@@ -12,14 +12,13 @@
 namespace quillmere::sample {
 namespace {
 
+using test::column;
 using test::countOf;
 using test::defaultRegister;
-using test::firstColumn;
 using test::TextRows;
 using test::textRows;
 
 TextRows rows(std::string_view sql) { return textRows(defaultRegister(), sql); }
-std::vector<std::string> column(std::string_view sql) { return firstColumn(defaultRegister(), sql); }
 std::string cell(std::string_view sql) { return rows(sql).at(0).at(0); }
 
 std::set<std::string> setOf(std::string_view sql) {

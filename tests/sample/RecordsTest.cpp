@@ -11,15 +11,12 @@
 namespace quillmere::sample {
 namespace {
 
-using test::countOf;
+using test::column;
+using test::count;
 using test::defaultRegister;
-using test::firstColumn;
 using test::makeRegister;
 using test::TextRows;
 using test::textRows;
-
-int count(std::string_view sql) { return countOf(defaultRegister(), sql); }
-std::vector<std::string> column(std::string_view sql) { return firstColumn(defaultRegister(), sql); }
 
 /// Runs a query that finds what is wrong; each row found is one failure.
 void expectNone(const std::string& sql) { EXPECT_EQ(textRows(defaultRegister(), sql), TextRows{}) << sql; }

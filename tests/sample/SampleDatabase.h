@@ -53,4 +53,10 @@ using TextRows = std::vector<std::vector<std::string>>;
     return connection.query(sql).at(0, std::size_t{0}).toLong();
 }
 
+/// Of the default register.
+[[nodiscard]] inline std::vector<std::string> column(std::string_view sql) {
+    return firstColumn(defaultRegister(), sql);
+}
+[[nodiscard]] inline int count(std::string_view sql) { return countOf(defaultRegister(), sql); }
+
 } // namespace quillmere::sample::test

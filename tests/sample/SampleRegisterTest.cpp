@@ -15,14 +15,13 @@
 namespace quillmere::sample {
 namespace {
 
+using test::count;
 using test::countOf;
 using test::defaultRegister;
 using test::firstColumn;
 using test::makeRegister;
 using test::TextRows;
 using test::textRows;
-
-int count(std::string_view sql) { return countOf(defaultRegister(), sql); }
 
 /// Everything in the register, as text.
 std::vector<TextRows> contents(data::Connection& connection) {

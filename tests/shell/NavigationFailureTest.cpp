@@ -103,32 +103,29 @@ INSTANTIATE_TEST_SUITE_P(Clicks, FailureIn,
                                          FailingClick{"03", 7, 1, "A01", 3},
                                          FailingClick{"01", 2, 2, "P06", 2}));
 
-class NavigationFailure : public NavigationTest {};
+class NavigationFailure : public NavigationTest {
+protected:
+    /// What is stored when a changed field was asked about, and the gate behind the question has failed.
+    [[nodiscard]] std::string storedWhenTheGateFails(ui::Answer answer) {
+        person.expectBox(editsQuestion, windowCaption, answer);
+        EXPECT_EQ(failureOf([&] {
+                      maintain([this](frmPersonWh& shown) {
+                          type("A01_A0119_v", "桥梁");
+                          database.failing().failOn("count(A00) from B01", "断线");
+                          click(shown, 1, "A02");
+                      });
+                  }),
+                  number(Failure::StatementFailed));
+        return database.cell("select A0119 from A01");
+    }
+};
 
 TEST_F(NavigationFailure, AtTheGateLosesTheEditsThatTheQuestionDropped) {
-    person.expectBox(editsQuestion, windowCaption, ui::Answer::No);
-    EXPECT_EQ(failureOf([&] {
-                  maintain([this](frmPersonWh& shown) {
-                      type("A01_A0119_v", "桥梁");
-                      database.failing().failOn("count(A00) from B01", "断线");
-                      click(shown, 1, "A02");
-                  });
-              }),
-              number(Failure::StatementFailed));
-    EXPECT_EQ(database.cell("select A0119 from A01"), "(null)");
+    EXPECT_EQ(storedWhenTheGateFails(ui::Answer::No), "(null)");
 }
 
 TEST_F(NavigationFailure, AtTheGateKeepsTheEditsThatTheQuestionStored) {
-    person.expectBox(editsQuestion, windowCaption, ui::Answer::Yes);
-    EXPECT_EQ(failureOf([&] {
-                  maintain([this](frmPersonWh& shown) {
-                      type("A01_A0119_v", "桥梁");
-                      database.failing().failOn("count(A00) from B01", "断线");
-                      click(shown, 1, "A02");
-                  });
-              }),
-              number(Failure::StatementFailed));
-    EXPECT_EQ(database.cell("select A0119 from A01"), "桥梁");
+    EXPECT_EQ(storedWhenTheGateFails(ui::Answer::Yes), "桥梁");
 }
 
 TEST_F(NavigationFailure, OfATableThatIsNotThereHasReplacedThePanel) {
