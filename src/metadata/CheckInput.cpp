@@ -1,5 +1,6 @@
 #include "metadata/CheckInput.h"
 
+#include "metadata/InputRule.h"
 #include "metadata/cFieldItem.h"
 #include "platform/Error.h"
 #include "platform/convert/Clock.h"
@@ -94,14 +95,19 @@ std::string CheckInput(const cFieldItem& item, std::string_view text) {
     if (text.find('\'') != std::string_view::npos) {
         return item.ItemDesc + "输入存在非法字符 ” ' “，请您将其改为 “ ‘ ”，或者去掉。 ";
     }
-    const std::vector<std::string> pieces = text::split(item.Check, " ");
-    if (pieces.size() < 2) return {};
-    const std::string letter = text::upper(pieces[0]);
-    const Arguments arguments = text::split(pieces[1], ",");
-    if (letter == "N") return checkNumber(item, arguments, text);
-    if (letter == "A") return checkAtMost(item, arguments, text);
-    if (letter == "L") return checkLengths(item, arguments, text);
-    if (letter == "B") return checkBounds(item, arguments, text);
+    const InputRule rule = parseInputRule(item.Check);
+    switch (rule.kind) {
+    case RuleKind::Number:
+        return checkNumber(item, rule.arguments, text);
+    case RuleKind::AtMost:
+        return checkAtMost(item, rule.arguments, text);
+    case RuleKind::Lengths:
+        return checkLengths(item, rule.arguments, text);
+    case RuleKind::Between:
+        return checkBounds(item, rule.arguments, text);
+    case RuleKind::None:
+        break;
+    }
     return {};
 }
 

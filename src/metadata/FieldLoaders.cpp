@@ -1,10 +1,9 @@
 #include "metadata/FieldLoaders.h"
 
+#include "metadata/CatalogueFields.h"
 #include "metadata/Globals.h"
-#include "platform/Error.h"
 #include "platform/data/Connection.h"
 
-#include <array>
 #include <string>
 #include <utility>
 
@@ -15,73 +14,10 @@ namespace {
 using data::RowSet;
 using data::Value;
 
-constexpr std::int16_t defaultWidth = 2000;
-constexpr const char* defaultLength = "0";
-
-/// One column of s_infoitem and how its value comes into a field, nulls included.
-struct Copy {
-    std::string_view column;
-    void (*into)(cFieldItem& item, const Value& value);
-};
-
-/// A text column; a null reads as the empty text.
-template <std::string cFieldItem::*member>
-void copyText(cFieldItem& item, const Value& value) {
-    item.*member = value.toTextOrEmpty();
+CatalogueFields openCatalogue(std::string_view tblname) {
+    return CatalogueFields(
+        gConn().query(" select * from s_infoitem  where tblname ='" + std::string(tblname) + "'"));
 }
-
-void copyLength(cFieldItem& item, const Value& value) {
-    item.FieldLength = value.isNull() ? defaultLength : value.toText();
-}
-
-void copyWidth(cFieldItem& item, const Value& value) {
-    item.FldWidth = value.isNull() ? defaultWidth : value.toInteger16();
-}
-
-void copyOptional(cFieldItem& item, const Value& value) { item.IsNUll = value.isNull() || value.toBoolean(); }
-
-constexpr std::array<Copy, 12> copies{{
-    {"TblName", copyText<&cFieldItem::TblName>},
-    {"ItemName", copyText<&cFieldItem::ItemName>},
-    {"ItemDesc", copyText<&cFieldItem::ItemDesc>},
-    {"FieldType", copyText<&cFieldItem::FieldType>},
-    {"FieldLength", copyLength},
-    {"CodeTable", copyText<&cFieldItem::CodeTable>},
-    {"Style", copyText<&cFieldItem::Style>},
-    {"Check", copyText<&cFieldItem::Check>},
-    {"FldOrder", copyText<&cFieldItem::FldOrder>},
-    {"FldWidth", copyWidth},
-    {"FldExplain", copyText<&cFieldItem::FldExplain>},
-    {"IsNUll", copyOptional},
-}};
-
-/// The catalogue rows of a table, and where in them each of the `copies` stands: the columns are
-/// looked up once, not for every row.
-class CatalogueRows {
-public:
-    explicit CatalogueRows(std::string_view tblname)
-        : rows_(gConn().query(" select * from s_infoitem  where tblname ='" + std::string(tblname) + "'")) {
-        if (rows_.empty()) return;
-        for (std::size_t i = 0; i < copies.size(); ++i) {
-            const auto column = rows_.findColumn(copies[i].column);
-            if (!column) throw Error(Failure::ItemNotFound);
-            columns_[i] = *column;
-        }
-    }
-
-    [[nodiscard]] std::size_t count() const { return rows_.rowCount(); }
-
-    [[nodiscard]] std::shared_ptr<cFieldItem> field(std::size_t row) const {
-        auto item = std::make_shared<cFieldItem>();
-        for (std::size_t i = 0; i < copies.size(); ++i)
-            copies[i].into(*item, rows_.at(row, columns_[i]));
-        return item;
-    }
-
-private:
-    RowSet rows_;
-    std::array<std::size_t, copies.size()> columns_{};
-};
 
 void addUnderItsKey(cFieldItems& fields, std::shared_ptr<cFieldItem> item) {
     const std::string key = item->TblName + "_" + item->ItemName;
@@ -111,7 +47,7 @@ void loadValue(cFieldItem& item, const RowSet& record) {
 
 std::shared_ptr<cFieldItems> LoadFieldItems(std::string_view tblname) {
     auto fields = std::make_shared<cFieldItems>();
-    const CatalogueRows catalogue(tblname);
+    const CatalogueFields catalogue = openCatalogue(tblname);
     for (std::size_t row = 0; row < catalogue.count(); ++row)
         addUnderItsKey(*fields, catalogue.field(row));
     return fields;
@@ -120,7 +56,7 @@ std::shared_ptr<cFieldItems> LoadFieldItems(std::string_view tblname) {
 std::shared_ptr<cFieldItems> LoadFieldItemsWithValues(std::string_view tblname, std::string_view personID,
                                                       std::int16_t id) {
     auto fields = std::make_shared<cFieldItems>();
-    const CatalogueRows catalogue(tblname);
+    const CatalogueFields catalogue = openCatalogue(tblname);
     if (catalogue.count() == 0) return fields;
     // Only the first row counts, also when there is no sequence condition to make it the only one.
     const RowSet record = openRecord(tblname, personID, id);

@@ -31,14 +31,6 @@ constexpr std::array letterGroups{
                 "SELECT * FROM s_infotable where tblname like 'F%' or tblname='P01' order by otherprop"},
 };
 
-/// The row of TS_SetCustomize that a group reads. The plan group knows three customisations only:
-/// all types but 1 and 6 read that of type 2, as required.
-std::int32_t customisingType(int group, std::int32_t zzType) {
-    constexpr int planGroup = 3;
-    if (group != planGroup || zzType == 1 || zzType == collectiveType) return zzType;
-    return 2;
-}
-
 /// "'A01','A02'" from "A01,A02"; nothing is trimmed.
 std::string quotedList(const std::string& names) {
     std::string list;
@@ -47,12 +39,6 @@ std::string quotedList(const std::string& names) {
         list += "'" + name + "'";
     }
     return list;
-}
-
-/// The tables of group 2 that open under the key of P01 and are told apart by their caption alone.
-std::string projectKey(const std::string& table, std::int32_t zzType) {
-    const bool schedule = table == "P02" && (zzType == 4 || zzType == 7);
-    return table == "P03" || table == "C04" || schedule ? "P01" : table;
 }
 
 void fillGroup(ui::VerticalMenu& menu, int group, std::string_view itemSql, std::int32_t zzType) {
@@ -84,6 +70,19 @@ std::string customisedItems(int group, std::int32_t zzType, std::string& list) {
 }
 
 } // namespace
+
+std::span<const std::string_view> customisedColumns() { return listColumns; }
+
+std::int32_t customisingType(int group, std::int32_t zzType) {
+    constexpr int planGroup = 3;
+    if (group != planGroup || zzType == 1 || zzType == collectiveType) return zzType;
+    return 2;
+}
+
+std::string projectKey(const std::string& table, std::int32_t zzType) {
+    const bool schedule = table == "P02" && (zzType == 4 || zzType == 7);
+    return table == "P03" || table == "C04" || schedule ? "P01" : table;
+}
 
 void composeMenu(ui::VerticalMenu& menu, std::int32_t zzType) {
     std::string list;

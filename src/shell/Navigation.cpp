@@ -6,6 +6,7 @@
 #include "platform/data/Connection.h"
 #include "platform/text/Text.h"
 #include "shell/ControlsByPrefix.h"
+#include "shell/PanelOfItem.h"
 
 #include <array>
 
@@ -17,25 +18,12 @@ namespace {
 
 constexpr std::int32_t planGroup = 3;
 constexpr std::int32_t closingGroup = 5;
-constexpr std::int32_t collectiveType = 6;
 constexpr std::int32_t skilledType = 7;
 
 std::int32_t countOf(const std::string& sql) { return gConn().query(sql).at(0, std::size_t{0}).toLong(); }
 
 bool startsWithOneOf(const std::string& key, std::string_view letters) {
     return !key.empty() && letters.find(key.front()) != std::string_view::npos;
-}
-
-/// The panel of the key "P01", by group and caption: the items that share the key are told apart by
-/// their captions alone.
-std::string projectPanel(std::int32_t group, const std::string& caption) {
-    if (group == planGroup) return gZZType == 1 ? "PP01A" : "PP01";
-    if (group == closingGroup) return "JP01";
-    if (caption == "项目工作进度计划") return "P02_DG";
-    if (caption == "经费使用安排" || caption == "项目总体经费使用…") {
-        return gZZType == collectiveType ? "C04" : "P03";
-    }
-    return "P01";
 }
 
 } // namespace
@@ -77,7 +65,7 @@ bool frmPersonWh::passesBaseRecordGate(const std::string& key) {
 }
 
 std::string frmPersonWh::panelSuffix(const std::string& key, std::int32_t group) const {
-    if (key == "P01") return projectPanel(group, VMenu1_->ItemCaption());
+    if (key == "P01") return panelOfProjectItem(group, VMenu1_->ItemCaption(), gZZType);
     if (key != "A01" || gZZType != skilledType) return key;
     const auto row = OpenRecordset("select * from A01 where A00='" + personID + "'");
     if (row->EOF_()) return "G01";
