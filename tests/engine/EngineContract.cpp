@@ -122,12 +122,32 @@ TEST_P(EngineContract, AnEmptyListIsASyntaxFailure) {
     EXPECT_EQ(countOf("s_infotable"), 4);
 }
 
-TEST_P(EngineContract, AnEmptyListInATextOrACommentIsNone) {
+TEST_P(EngineContract, AnEmptyListInATextIsNone) {
     makeInfoTable();
-    EXPECT_EQ(cell("select 'in ()' from s_infotable where tblname='A01' /* in () */"), Value("in ()"));
-    EXPECT_EQ(cell("select 'it''s in ()' from s_infotable where tblname='A01' -- in ()"),
-              Value("it's in ()"));
+    EXPECT_EQ(cell("select 'in ()' from s_infotable where tblname='A01'"), Value("in ()"));
+    EXPECT_EQ(cell("select 'it''s in ()' from s_infotable where tblname='A01'"), Value("it's in ()"));
     EXPECT_EQ(column("select tblname as \"in ()\" from s_infotable where tblname in ('in ()','A01')"),
+              std::vector<std::string>{"A01"});
+}
+
+TEST_P(EngineContract, ACommentIsRefusedBeforeAnythingRuns) {
+    makeInfoTable();
+    // What a text with a quote would make of a change of one row.
+    for (const char* sql :
+         {"update s_infotable set tbldesc='x' -- ' where tblname='A01'",
+          "update s_infotable set tbldesc='x' /* ' where tblname='A01' */",
+          "delete from s_infotable -- where tblname='A01'", "-- nothing", "/* nothing */"}) {
+        EXPECT_EQ(failureOf([&] { execute(sql); }), number(Failure::StatementFailed)) << sql;
+    }
+    EXPECT_EQ(countOf("s_infotable"), 4);
+    EXPECT_EQ(cell("select count(*) from s_infotable where tbldesc='x'").toLong(), 0);
+}
+
+TEST_P(EngineContract, TheMarksOfACommentInATextOrANameAreNone) {
+    makeInfoTable();
+    EXPECT_EQ(cell("select '-- it''s /* one */' from s_infotable where tblname='A01'"),
+              Value("-- it's /* one */"));
+    EXPECT_EQ(column("select tblname as \"a--b\" from s_infotable where tblname='A01'"),
               std::vector<std::string>{"A01"});
 }
 

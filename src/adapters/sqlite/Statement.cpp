@@ -1,8 +1,8 @@
 #include "adapters/sqlite/Statement.h"
 
 #include "adapters/sqlite/BooleanItems.h"
-#include "adapters/sqlite/EmptyList.h"
 #include "adapters/sqlite/SqliteError.h"
+#include "platform/data/EmptyList.h"
 
 #include <sqlite3.h>
 
@@ -82,9 +82,10 @@ Statement::Statement(sqlite3* database, CompilationNote& note, std::string_view 
     if (sql.empty()) raiseStatementFailed(emptyStatement);
     // SQLite would stop reading there and run what stands before it.
     if (sql.find('\0') != std::string_view::npos) raiseStatementFailed("语句中含有无效字符");
+    if (data::hasComment(sql)) raiseStatementFailed("语句中含有注释");
 
-    const auto tokens = tokensOf(sql);
-    if (hasEmptyList(tokens)) raiseStatementFailed("in 后面的列表是空的");
+    const auto tokens = data::tokensOf(sql);
+    if (data::hasEmptyList(tokens)) raiseStatementFailed("in 后面的列表是空的");
     booleanItems_ = booleanItems(tokens);
 
     note_.clear();

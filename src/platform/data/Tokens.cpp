@@ -1,9 +1,9 @@
-#include "adapters/sqlite/Tokens.h"
+#include "platform/data/Tokens.h"
 
 #include <algorithm>
 #include <cstddef>
 
-namespace quillmere::sqlite {
+namespace quillmere::data {
 
 namespace {
 
@@ -29,13 +29,17 @@ std::size_t commentLength(std::string_view rest) {
     return found == std::string_view::npos ? rest.size() : found + end.size();
 }
 
-/// The end of the quoted piece that `rest` begins with; 0 when it begins with none. A doubled quote makes
-/// two pieces, which nothing here needs to tell from one.
+/// The end of the quoted piece that `rest` begins with; 0 when it begins with none. A doubled quote is
+/// a part of the piece.
 std::size_t quotedLength(std::string_view rest) {
     if (std::string_view("'\"`[").find(rest.front()) == std::string_view::npos) return 0;
     const char closing = rest.front() == '[' ? ']' : rest.front();
-    const std::size_t found = rest.find(closing, 1);
-    return found == std::string_view::npos ? rest.size() : found + 1;
+    for (std::size_t end = rest.find(closing, 1); end != std::string_view::npos;
+         end = rest.find(closing, end + 2)) {
+        const bool doubled = closing != ']' && rest.substr(end + 1).starts_with(closing);
+        if (!doubled) return end + 1;
+    }
+    return rest.size();
 }
 
 std::size_t wordLength(std::string_view rest) {
@@ -69,4 +73,12 @@ std::vector<Token> tokensOf(std::string_view sql) {
     return tokens;
 }
 
-} // namespace quillmere::sqlite
+bool hasComment(std::string_view sql) {
+    while (!sql.empty()) {
+        if (commentLength(sql) != 0) return true;
+        sql.remove_prefix(std::max<std::size_t>(1, quotedLength(sql)));
+    }
+    return false;
+}
+
+} // namespace quillmere::data

@@ -1,8 +1,8 @@
-#include "adapters/sqlite/EmptyList.h"
+#include "platform/data/EmptyList.h"
 
 #include <cstddef>
 
-namespace quillmere::sqlite {
+namespace quillmere::data {
 
 bool hasEmptyList(std::span<const Token> statement) {
     for (std::size_t i = 0; i + 2 < statement.size(); ++i) {
@@ -12,4 +12,4 @@ bool hasEmptyList(std::span<const Token> statement) {
     return false;
 }
 
-} // namespace quillmere::sqlite
+} // namespace quillmere::data

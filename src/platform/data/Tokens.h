@@ -3,7 +3,7 @@
 #include <string_view>
 #include <vector>
 
-namespace quillmere::sqlite {
+namespace quillmere::data {
 
 /// A piece of a statement's text. A word is a name, a keyword or a number; a quoted piece is a text or a
 /// name in quotes or brackets, with them; a sign is any other character.
@@ -21,4 +21,9 @@ struct Token {
 /// The pieces of `sql` in their order, without blanks and comments. They refer to `sql`.
 [[nodiscard]] std::vector<Token> tokensOf(std::string_view sql);
 
-} // namespace quillmere::sqlite
+/// Whether a comment stands in `sql` outside its quotes. The catalogue's dialect has none, while an engine
+/// may: a quote in a text could then hide the rest of its statement, conditions and all, and the statement
+/// would run instead of failing.
+[[nodiscard]] bool hasComment(std::string_view sql);
+
+} // namespace quillmere::data
