@@ -1,6 +1,7 @@
 #include "register/Look.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QLibraryInfo>
 #include <QPainter>
 #include <QPalette>
@@ -10,10 +11,23 @@
 #include <QWidget>
 
 #include <array>
+#include <stdexcept>
+
+/// A static library's resources register themselves only when asked to, and outside of any namespace.
+static void registerResources() { Q_INIT_RESOURCE(quillmere_register); }
 
 namespace quillmere::host::look {
 
 namespace {
+
+/// A file that the program carries inside itself.
+QByteArray resource(const QString& name) {
+    registerResources();
+    QFile file(QStringLiteral(":/register/") + name);
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error("not carried inside: " + name.toStdString());
+    return file.readAll();
+}
 
 constexpr QColor toolColour{0x1F, 0x4E, 0x9C};
 constexpr QColor paleColour{0xB4, 0xBE, 0xCB};
@@ -114,33 +128,23 @@ QStatusBar QLabel[outcome="saved"] { color: #1B7F4B; font-weight: bold; }
 QStatusBar QLabel[outcome="failure"] { color: #C0362C; font-weight: bold; }
 )";
 
-/// Lines on a ground of 24 by 24.
-constexpr std::array drawings{
-    "M12 5v14M5 12h14",
-    "M4 20h4L19 9l-4-4L4 16zM13 7l4 4",
-    "M5 6h14v14H5zM5 10h14M9 3.500v4M15 3.500v4M8.500 14h3M8.500 17h6",
-    "M4 20h16M6.500 20v-6M11 20V9M15.500 20v-8M20 20V5",
-    "M4 12a8 8 0 1 0 16 0a8 8 0 1 0-16 0M8 12.500l2.800 2.800L16 9.500",
-    "M4.500 11a6.500 6.500 0 1 0 13 0a6.500 6.500 0 1 0-13 0M16 16l4.500 4.500",
-    "M7 7l10 10M17 7L7 17",
-    "M7 10l5 5l5-5",
-    "M4 12a8 8 0 1 0 16 0a8 8 0 1 0-16 0M12 7.500v4.500l3 2",
-    "M3.500 18.500v-12h6l2 2.500h9v9.500z",
-    "M5 5.500h14v13H5zM5 10h14M5 14.500h14M10 10v8.500",
-};
+/// The drawings icons/*.svg, in the order of Glyph.
+constexpr std::array names{"add",   "edit", "plan",  "progress", "closing", "search",
+                           "clear", "down", "clock", "open",     "folder",  "sample"};
 
-QPixmap pixmap(Glyph glyph, const QColor& colour, int size) {
-    const QString drawing =
-        QStringLiteral("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 24 24'>"
-                       "<path d='%1' fill='none' stroke='%2' stroke-width='1.8' "
-                       "stroke-linecap='round' stroke-linejoin='round'/></svg>")
-            .arg(QLatin1String(drawings.at(static_cast<std::size_t>(glyph))), colour.name());
-    QSvgRenderer renderer(drawing.toUtf8());
+QPixmap draw(const QByteArray& drawing, int size) {
+    QSvgRenderer renderer(drawing);
     QPixmap picture(size, size);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     renderer.render(&painter);
     return picture;
+}
+
+QPixmap pixmap(Glyph glyph, const QColor& colour, int size) {
+    const QLatin1String name(names.at(static_cast<std::size_t>(glyph)));
+    QByteArray drawing = resource(QStringLiteral("icons/%1.svg").arg(name));
+    return draw(drawing.replace("currentColor", colour.name().toLatin1()), size);
 }
 
 } // namespace
@@ -157,6 +161,9 @@ void dress(QApplication& application) {
     font.setFamilies({QStringLiteral("Microsoft YaHei UI"), QStringLiteral("Noto Sans CJK SC")});
     font.setPixelSize(fontPixels);
     QApplication::setFont(font);
+
+    QApplication::setWindowIcon(programIcon());
+    QGuiApplication::setDesktopFileName(QStringLiteral("quillmere-register"));
 
     auto* translator = new QTranslator(&application);
     if (translator->load(QStringLiteral("qtbase_zh_CN"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
@@ -175,5 +182,13 @@ QIcon icon(Glyph glyph, const QColor& colour) {
 }
 
 QIcon icon(Glyph glyph) { return icon(glyph, toolColour); }
+
+QIcon programIcon() {
+    const QByteArray drawing = resource(QStringLiteral("quillmere-register.svg"));
+    QIcon result;
+    for (const int size : {16, 24, 32, 48, 64, 128, 256})
+        result.addPixmap(draw(drawing, size));
+    return result;
+}
 
 } // namespace quillmere::host::look

@@ -5,6 +5,7 @@
 #include "register/EmptyState.h"
 #include "register/FilterBar.h"
 #include "register/RegisterSource.h"
+#include "register/StartWindow.h"
 
 #include <QAction>
 #include <QItemSelectionModel>
@@ -50,6 +51,18 @@ MainWindow::MainWindow(RegisterList list, HostSettings settings, OpenMaintenance
     follow();
     tell(Outcome::None, QStringLiteral("就绪"));
 }
+
+void MainWindow::onOpenAnother(std::function<void()> open) {
+    openAnother_ = std::move(open);
+    another_->setVisible(openAnother_ != nullptr);
+}
+
+void MainWindow::showProblem(const Problem& problem) {
+    tell(Outcome::Failure, problem.title + u'：' + problem.text.section(u'\n', 0, 0));
+    message_->setToolTip(problem.text);
+}
+
+void MainWindow::showNotice(const QString& text) { tell(Outcome::None, text); }
 
 void MainWindow::request() {
     const Query query = filter_->query();

@@ -8,6 +8,7 @@
 #include <QMainWindow>
 
 #include <array>
+#include <functional>
 
 class QBoxLayout;
 class QLabel;
@@ -20,6 +21,7 @@ namespace quillmere::host {
 
 class EmptyState;
 class FilterBar;
+struct Problem;
 
 /// What the host itself is set to.
 struct HostSettings {
@@ -41,6 +43,12 @@ class MainWindow final : public QMainWindow {
 public:
     /// Raises quillmere::Error when the register cannot be read.
     MainWindow(RegisterList list, HostSettings settings, OpenMaintenance open = openMaintenance);
+
+    /// Offers to open another register; whoever keeps the windows opens it.
+    void onOpenAnother(std::function<void()> open);
+    /// Why another register could not be opened; this one stays open.
+    void showProblem(const Problem& problem);
+    void showNotice(const QString& text);
 
 private:
     void buildWidgets();
@@ -96,6 +104,7 @@ private:
     RegisterList list_;
     HostSettings settings_;
     OpenMaintenance open_;
+    std::function<void()> openAnother_;
     RegisterModel model_;
     std::int16_t newRecordType_ = 1;
     /// The last selection of each kind.
@@ -113,6 +122,7 @@ private:
     QToolButton* new_ = nullptr;
     QMenu* typeMenu_ = nullptr;
     QToolButton* recent_ = nullptr;
+    QToolButton* another_ = nullptr;
     std::vector<QToolButton*> operations_;
     FilterBar* filter_ = nullptr;
     QStackedWidget* pages_ = nullptr;

@@ -121,8 +121,10 @@ void MainWindow::fillRecentMenu() {
     QMenu& menu = *recent_->menu();
     menu.clear();
     for (const RecentRecord& record : settings_.memory.recent())
-        connect(menu.addAction(menuText(record)), &QAction::triggered, this,
-                [this, record] { startOnRecent(record); });
+        // Queued: the menu is filled anew then, and an assistive program waits for an answer.
+        connect(
+            menu.addAction(menuText(record)), &QAction::triggered, this,
+            [this, record] { startOnRecent(record); }, Qt::QueuedConnection);
     recent_->setEnabled(!menu.isEmpty());
 }
 

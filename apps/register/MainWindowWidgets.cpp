@@ -127,6 +127,12 @@ void MainWindow::buildTopBar(QBoxLayout& column) {
     recent_->setProperty("quietMenu", true);
     recent_->setMenu(new QMenu(recent_));
     row->addWidget(recent_);
+    another_ = toolButton("openAnother", QStringLiteral("打开…"), look::icon(look::Glyph::Open));
+    another_->setToolTip(QStringLiteral("打开另一个登记库（Ctrl+O）"));
+    another_->setShortcut(QKeySequence::Open);
+    another_->hide();
+    connect(another_, &QToolButton::clicked, this, [this] { openAnother_(); });
+    row->addWidget(another_);
     column.addWidget(bar);
 }
 

@@ -4,7 +4,7 @@
 #include "platform/data/Connection.h"
 #include "register/OpenRegister.h"
 #include "register/PanelShots.h"
-#include "register/StartWindow.h"
+#include "register/Reception.h"
 #include "register/Tour.h"
 #include "sample/OutputFile.h"
 
@@ -80,45 +80,10 @@ int shootPanels(const CommandLine& line) {
     return EXIT_SUCCESS;
 }
 
-/// Who receives the person: opens the register in its window or, where there is none to open, stands in
-/// the start window until there is.
-class Reception {
-public:
-    explicit Reception(QString unitCode) : unitCode_(std::move(unitCode)) {}
-
-    void open(const QString& path) {
-        try {
-            window_ = openRegister(path, unitCode_, true);
-        } catch (const std::exception& failure) {
-            welcome();
-            return start_->showProblem(problemWith(path, failure));
-        }
-        Memory::setLastRegister(path);
-        window_->show();
-        // It may be in the middle of telling which register was chosen.
-        if (start_) start_.release()->deleteLater();
-    }
-
-    void welcome() {
-        if (!start_) {
-            start_ = std::make_unique<StartWindow>(
-                StartWindow::Listener{[this](const QString& path) { open(path); }, askForFile, askForPlace});
-        }
-        start_->show();
-    }
-
-    [[nodiscard]] bool hasOpened() const { return window_ != nullptr; }
-
-private:
-    QString unitCode_;
-    std::unique_ptr<MainWindow> window_;
-    std::unique_ptr<StartWindow> start_;
-};
-
 int workInWindow(const CommandLine& line) {
     // The maintenance window shows on this toolkit, which must outlive every opening of it.
     const qt::Toolkit toolkit;
-    Reception reception(line.unitCode);
+    Reception reception(line.unitCode, {askForFile, askForPlace});
     const QString path = registerToOpen(line);
     if (path.isEmpty())
         reception.welcome();

@@ -86,7 +86,7 @@ void StartWindow::buildProblem(QBoxLayout& column) {
 void StartWindow::buildChoices(QBoxLayout& column) {
     const QPushButton* openFile =
         addChoice(column, "openFile", QStringLiteral("打开登记库文件…"),
-                  QStringLiteral("选择电脑上已有的登记库（.db）"), look::icon(look::Glyph::Folder));
+                  QStringLiteral("选择电脑上已有的登记库（.db）"), look::icon(look::Glyph::Open));
     const QPushButton* sample =
         addChoice(column, "makeSample", QStringLiteral("制作样例库…"),
                   QStringLiteral("虚构的 %1 人、%2 个单位，可以随意试用").arg(samplePersons).arg(sampleUnits),

@@ -119,6 +119,8 @@ void A1ctrlUser::setDGItems() {
     }
     for (std::size_t column = 0; column < statement.widths.size(); ++column) {
         grid_->setColumnWidth(column, statement.widths[column]);
+        const cFieldItem* field = FieldItems->find(WhInfo.TabId + "_" + statement.fields[column]);
+        if (field != nullptr && holdsNumbers(*field)) grid_->setColumnAlignment(column, ui::Alignment::Right);
     }
     if (row_.gridFollowsSet) grid_->setVisible(WhInfo.IsMult);
 }

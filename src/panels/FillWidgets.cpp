@@ -27,6 +27,7 @@ void fillTextBox(ui::TextBox& box, const cFieldItem& field) {
     const bool coded = !field.CodeTable.empty();
     box.setBackColor(coded ? ui::colour::codedField : ui::colour::window);
     box.setLocked(coded);
+    box.setAlignment(holdsNumbers(field) ? ui::Alignment::Right : ui::Alignment::Left);
     box.setText(field.Dmcpt.empty() ? field.code() : field.Dmcpt);
     box.setMaxLength(lengthLimit(field));
 }
@@ -65,6 +66,11 @@ bool isUnchecked(const data::Value& value) {
 }
 
 } // namespace
+
+bool holdsNumbers(const cFieldItem& field) {
+    if (!field.CodeTable.empty()) return false;
+    return text::equalsNoCase(field.FieldType, "int") || text::upper(field.Check).starts_with("N ");
+}
 
 void fillValueWidget(ui::Control& widget, const cFieldItem& field, FillTemplate fill) {
     switch (widget.kind()) {

@@ -64,6 +64,7 @@ GridStatement makeGridStatement(const cWhInfo& info, bool aliasedCatalogue) {
     for (; !rows->EOF_(); rows->MoveNext()) {
         made.sql += made.sql.empty() ? "select " : ", ";
         made.sql += term(table, *rows, columns);
+        made.fields.push_back(rows->Fields("itemname").toText());
         made.widths.push_back(rows->Fields(columns.width).toInteger16());
     }
     if (!made.sql.empty()) {

@@ -8,10 +8,12 @@ namespace quillmere {
 
 struct cWhInfo;
 
-/// The generated statement behind a panel's grid, and the column widths in twips.
+/// The generated statement behind a panel's grid, and for each of its columns the field and the width in
+/// twips.
 struct GridStatement {
     /// Empty when the catalogue lists no field of the table.
     std::string sql;
+    std::vector<std::string> fields;
     std::vector<std::int16_t> widths;
 };
 

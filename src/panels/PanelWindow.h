@@ -19,6 +19,8 @@ public:
     virtual void TbMain_ButtonClick(ui::Toolbar::Button& button) = 0;
     /// Directory of the photo files.
     [[nodiscard]] virtual const std::string& photoPath() const = 0;
+    /// The file of the person's photo has been replaced.
+    virtual void photoChanged() = 0;
 };
 
 } // namespace quillmere

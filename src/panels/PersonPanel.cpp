@@ -45,6 +45,7 @@ void PersonPanel::updatePhoto() {
     ui::desktop().showModal(preview);
     if (preview.Cancelled != 0) return;
     LoadPersonPhoto(*find("imgPerson"), photoPath(window().photoPath(), personID));
+    window().photoChanged();
 }
 
 } // namespace quillmere

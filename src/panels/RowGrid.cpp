@@ -4,15 +4,17 @@ namespace quillmere {
 
 namespace {
 
+constexpr GridColumnRow amount(std::string_view input) { return {.input = input, .isNumber = true}; }
+
 constexpr GridColumnRow scheduleColumns[] = {
     {"txtP0201", true}, {"txtP0202", true}, {"txtP0203"}, {"txtP0204"}};
 
-constexpr GridColumnRow bySubjectColumns[] = {{"txtP0301_t"}, {"txtP0302_t"}};
+constexpr GridColumnRow bySubjectColumns[] = {{"txtP0301_t"}, amount("txtP0302_t")};
 
-constexpr GridColumnRow byPurposeColumns[] = {{"txtP0301_q"}, {"txtP0302_q"}, {"txtP0303_q"}};
+constexpr GridColumnRow byPurposeColumns[] = {{"txtP0301_q"}, amount("txtP0302_q"), {"txtP0303_q"}};
 
-constexpr GridColumnRow fundingPlanColumns[] = {{"txtC0401"}, {"txtC0402"}, {"txtC0403"},
-                                                {"txtC0404"}, {"txtC0405"}, {"txtC0406"}};
+constexpr GridColumnRow fundingPlanColumns[] = {{"txtC0401"},       amount("txtC0402"), amount("txtC0403"),
+                                                amount("txtC0404"), amount("txtC0405"), {"txtC0406"}};
 
 // The funding plan of a collective project uses the words of the schedule too: meant so.
 constexpr FailureBox scheduleBinding{"错误", "在申请资助项目进度计划的数据绑定的时候出错误，错误原因为："};

@@ -14,6 +14,7 @@ struct GridColumnRow {
     std::string_view input;
     /// Stored as "yyyy-MM", entered as "yyyy年MM月".
     bool isMonth = false;
+    bool isNumber = false;
 };
 
 /// A grid of rows that are kept through the row editor, with its three buttons. The key stands

@@ -50,6 +50,9 @@ void RowGridPanel::bindRows(const RowGridRow& row) {
         shown.setDataSource(OpenRecordset(
             std::string(row.select) + WhInfo.personID + std::string(row.selectEnd), optimisticLock));
         shown.setColumnVisible(0, false);
+        for (std::size_t i = 0; i < row.columns.size(); ++i) {
+            if (row.columns[i].isNumber) shown.setColumnAlignment(i + 1, ui::Alignment::Right);
+        }
     });
 }
 

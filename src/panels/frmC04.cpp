@@ -65,6 +65,7 @@ void frmC04::buildInput(const RowInputRow& row, ui::Frame& frame) {
     box.setMultiLine(row.kind == RowInput::LongText);
     if (row.kind != RowInput::Amount) return;
     install(KeyFilter::Decimal, box);
+    box.setAlignment(ui::Alignment::Right);
     add<ui::Label>("lblUnit" + name, "万元").setContainer(&frame);
 }
 

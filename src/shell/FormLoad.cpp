@@ -96,6 +96,7 @@ void frmPersonWh::startByOperationType() {
         whState_ = OperationType;
         if (OperationType == newRecordOpening) {
             labPersonName_->setCaption("");
+            showNamePhoto();
         } else {
             checkIdentity();
         }
@@ -113,7 +114,10 @@ void frmPersonWh::checkIdentity() {
     }
     // A person takes precedence over a unit of the same identity.
     const data::RowSet& named = person.rowCount() == 1 ? person : unit;
-    if (!named.empty()) labPersonName_->setCaption(named.at(0, std::size_t{0}).toTextOrEmpty());
+    if (named.empty()) return;
+    labPersonName_->setCaption(named.at(0, std::size_t{0}).toTextOrEmpty());
+    namesPerson_ = person.rowCount() == 1;
+    showNamePhoto();
 }
 
 } // namespace quillmere

@@ -72,7 +72,10 @@ void frmPersonWh::commandDelete(A1ctrlUser& panel) {
                                                   : "是否删除此条记录？";
     if (!ask(question, Caption())) return;
     std::string sql = "delete from " + table + " where A00='" + personID + "' ";
-    if (table == "A01") DeletePersonPhoto(personID, PhotoPath);
+    if (table == "A01") {
+        DeletePersonPhoto(personID, PhotoPath);
+        showNamePhoto();
+    }
     if (info.IsMult) sql += " and " + table + "99 = " + std::to_string(info.id);
     gConn().execute(sql);
     if (table == "A01" || table == "B01") gConn().execute("delete from P01 where A00='" + personID + "'");

@@ -5,6 +5,7 @@
 #include "metadata/Globals.h"
 #include "metadata/Identity.h"
 #include "panels/PanelFactory.h"
+#include "photos/PhotoStore.h"
 #include "platform/Error.h"
 #include "platform/data/Connection.h"
 #include "platform/text/Text.h"
@@ -143,7 +144,12 @@ void frmPersonWh::IniUCtrl(A1ctrlUser& panel, std::string_view table, std::int32
 }
 
 bool frmPersonWh::Save(A1ctrlUser& panel) {
-    return quillmere::Save(panel, {whState_, personID, UnitCode, *labPersonName_});
+    if (!quillmere::Save(panel, {whState_, personID, UnitCode, *labPersonName_})) return false;
+    if (const std::string& table = panel.WhInfo.TabId; table == "A01" || table == "B01") {
+        namesPerson_ = table == "A01";
+        showNamePhoto();
+    }
+    return true;
 }
 
 void frmPersonWh::SetState(std::int32_t /*a*/, std::int32_t /*b*/) {}
@@ -193,7 +199,13 @@ void frmPersonWh::NewPersonRecord() {
     setAddAndDelete(false);
     whState_ = 0;
     labPersonName_->setCaption("");
+    showNamePhoto();
     info.IsChange = false;
+}
+
+void frmPersonWh::showNamePhoto() {
+    const bool named = namesPerson_ && !labPersonName_->Caption().empty();
+    labPersonName_->setPicture(named ? quillmere::photoPath(PhotoPath, personID) : std::string());
 }
 
 void frmPersonWh::setAddAndDelete(bool enabled) {

@@ -69,6 +69,7 @@ public:
     // PanelWindow
     ui::Toolbar::Button& toolbarButton(std::string_view key) override { return TbMain_->Buttons(key); }
     const std::string& photoPath() const override { return PhotoPath; }
+    void photoChanged() override { showNamePhoto(); }
 
 protected:
     void onLoad() override;
@@ -82,6 +83,8 @@ private:
     void startByOperationType();
     void checkIdentity();
     void NewPersonRecord();
+    /// The name strip shows the photo of the person whom it names: none of a unit, none without a name.
+    void showNamePhoto();
 
     // Steps of a menu click.
     [[nodiscard]] bool keepOrDropEdits();
@@ -104,6 +107,7 @@ private:
 
     std::int32_t whState_ = 0;
     std::string projectStage_;
+    bool namesPerson_ = false;
     ui::Skin* Skin1_ = nullptr;
     ui::VerticalMenu* VMenu1_ = nullptr;
     ui::Frame* frmCtrl_ = nullptr;

@@ -1,6 +1,8 @@
 #include "panels/PanelBench.h"
 #include "support/FailureNumber.h"
 
+#include <array>
+
 namespace quillmere {
 namespace {
 
@@ -54,6 +56,32 @@ TEST_F(SetCtrlTest, APlainBoxHasTheWindowColourAndIsOpen) {
     panel.setCtrl(items);
     EXPECT_EQ(box.BackColor(), 0x80000005U);
     EXPECT_FALSE(box.Locked());
+}
+
+TEST_F(SetCtrlTest, NumbersStandAtTheRight) {
+    struct Case {
+        const char* type;
+        const char* rule;
+        const char* codeTable;
+        ui::Alignment side;
+    };
+    constexpr std::array cases{
+        Case{"int", "", "", ui::Alignment::Right},
+        Case{"Varchar", "N 12,2", "", ui::Alignment::Right},
+        Case{"varchar", "n 4,1", "", ui::Alignment::Right},
+        Case{"varchar", "A 20", "", ui::Alignment::Left},
+        Case{"varchar", "", "", ui::Alignment::Left},
+        // A year and a code have digits, but are no amounts.
+        Case{"varchar", "B 1900,2100", "", ui::Alignment::Left},
+        Case{"int", "", "ZW", ui::Alignment::Left},
+    };
+    for (const Case& each : cases) {
+        item.FieldType = each.type;
+        item.Check = each.rule;
+        item.CodeTable = each.codeTable;
+        panel.setCtrl(items);
+        EXPECT_EQ(box.Alignment(), each.side) << each.type << " " << each.rule << " " << each.codeTable;
+    }
 }
 
 TEST_F(SetCtrlTest, ABoxShowsTheCaptionOfTheCodeThoughTheCodeIsStored) {

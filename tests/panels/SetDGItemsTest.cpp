@@ -62,6 +62,19 @@ TEST_F(SetDGItemsTest, TheColumnsGetTheirWidths) {
     EXPECT_EQ(grid(panel).columns()[3].width, 350);
 }
 
+TEST_F(SetDGItemsTest, ColumnsOfNumbersStandAtTheRight) {
+    db.run("update s_infoitem set [Check] = 'N 12,2' where ItemName = 'T01'");
+    db.run("update s_infoitem set FieldType = 'int' where ItemName = 'T99'");
+    for (const char* id : {"p1", "p2"}) {
+        A1ctrlUser& panel = prepare(setRow, id);
+        panel.setDGItems();
+        const auto& columns = grid(panel).columns();
+        EXPECT_EQ(columns[0].alignment, ui::Alignment::Right) << id;
+        EXPECT_EQ(columns[1].alignment, ui::Alignment::Left) << id;
+        EXPECT_EQ(columns[3].alignment, ui::Alignment::Right) << id;
+    }
+}
+
 TEST_F(SetDGItemsTest, TheGridShowsOnMultiRecordSetsOnly) {
     A1ctrlUser& panel = prepare(setRow);
     panel.WhInfo.IsMult = false;

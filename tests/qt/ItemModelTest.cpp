@@ -66,6 +66,15 @@ TEST(GridModelTest, ShowsHeadingsAndCellsWithNumbersAtTheRight) {
     EXPECT_TRUE(sideOf(1) & Qt::AlignLeft);
 }
 
+TEST(GridModelTest, AColumnOfNumbersThatAreStoredAsTextStandsAtTheRightTooAndSoDoesItsHeading) {
+    ui::DataGrid grid("DGItems");
+    grid.setDataSource(people(2));
+    grid.setColumnAlignment(1, ui::Alignment::Right);
+    const qt::GridModel model(grid);
+    EXPECT_TRUE(model.data(model.index(0, 1), Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
+    EXPECT_TRUE(model.headerData(1, Qt::Horizontal, Qt::TextAlignmentRole).toInt() & Qt::AlignRight);
+}
+
 TEST(GridModelTest, ShowsNothingOfARecordsetThatChangedUnderIt) {
     ui::DataGrid grid("DGItems");
     auto source = people(3);

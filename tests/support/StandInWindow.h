@@ -29,11 +29,13 @@ public:
     ui::Toolbar::Button& toolbarButton(std::string_view key) override { return toolbar.Buttons(key); }
     void TbMain_ButtonClick(ui::Toolbar::Button& button) override { clicked.push_back(button.Key()); }
     const std::string& photoPath() const override { return folder; }
+    void photoChanged() override { ++photoChanges; }
 
     ui::Toolbar& toolbar = add<ui::Toolbar>("TbMain");
     /// Keys of the buttons that a panel clicked, in order.
     std::vector<std::string> clicked;
     std::string folder = "photos";
+    int photoChanges = 0;
 };
 
 } // namespace quillmere::test

@@ -108,7 +108,7 @@ private:
             column.addWidget(group.fields.front().editor->widget());
         } else if (!group.fields.empty()) {
             auto* fields = new FieldGrid(group.fields);
-            fields->limitColumns(1);
+            fields->standInDialog();
             column.addWidget(fields, 1);
         }
         if (!group.images.empty()) return;

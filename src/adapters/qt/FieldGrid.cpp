@@ -25,9 +25,8 @@ constexpr int narrowestEditor = 120;
 /// What a box should have before a long caption may stand on one line.
 constexpr int comfortableEditor = 160;
 constexpr int memoHeight = 84;
-constexpr int cornerRows = 5;
+constexpr int cornerRows = 6;
 constexpr int columnGap = 18;
-constexpr int sideMargin = 20;
 constexpr int spacing = 8;
 /// Columns of the layout that one column of fields takes: caption, editor, unit, gap.
 constexpr int perColumn = 4;
@@ -212,11 +211,17 @@ void FieldGrid::setCorner(QLabel* caption, QWidget* corner) {
     arrange(shape_);
 }
 
+void FieldGrid::standInDialog() {
+    mostColumns_ = 1;
+    sideMargin_ = 0;
+    arrange(shape_);
+}
+
 bool FieldGrid::hasWideFields() const { return std::ranges::any_of(all_, &Field::isWide); }
 
 QSize FieldGrid::minimumSizeHint() const {
     constexpr int spacings = 24;
-    return {captionWidth_ + narrowestEditor + unitWidth_ + 2 * sideMargin + spacings,
+    return {captionWidth_ + narrowestEditor + unitWidth_ + 2 * sideMargin_ + spacings,
             QWidget::minimumSizeHint().height()};
 }
 
@@ -230,7 +235,7 @@ FieldGrid::Shape FieldGrid::shapeFor(int width) const {
     const int columns = columnsFor(width);
     const std::vector<int> captions = captionWidths({columns, false}, placesIn(columns));
     const int others =
-        2 * sideMargin + (columns - 1) * columnGap + columns * (unitWidth_ + perColumn * spacing);
+        2 * sideMargin_ + (columns - 1) * columnGap + columns * (unitWidth_ + perColumn * spacing);
     const int room = width - others - std::accumulate(captions.begin(), captions.end(), 0);
     return {columns, captionWidth_ < longestCaption_ && room < columns * comfortableEditor};
 }
@@ -310,7 +315,7 @@ void FieldGrid::arrange(const Shape& shape) {
     // A fresh layout, since rows and columns keep stretches and widths of the last arrangement.
     delete layout();
     auto* grid = new QGridLayout(this);
-    grid->setContentsMargins(sideMargin, 14, sideMargin, 14);
+    grid->setContentsMargins(sideMargin_, 14, sideMargin_, 14);
     grid->setHorizontalSpacing(spacing);
     grid->setVerticalSpacing(7);
     const std::vector<Place> places = placesIn(shape.columns);

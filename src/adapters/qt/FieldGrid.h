@@ -22,7 +22,8 @@ public:
     /// may be no caption.
     void setCorner(QLabel* caption, QWidget* corner);
     [[nodiscard]] bool hasWideFields() const;
-    void limitColumns(int most) { mostColumns_ = most; }
+    /// One column, flush with the other parts of a dialog.
+    void standInDialog();
 
     /// As narrow as one column may be, whatever the columns on show need.
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -73,6 +74,7 @@ private:
     int longestCaption_ = 0;
     int unitWidth_ = 0;
     int mostColumns_ = 3;
+    int sideMargin_ = 20;
     /// As many as make even rows.
     int evenColumns_ = 3;
     bool scheduled_ = false;

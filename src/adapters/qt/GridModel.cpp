@@ -25,7 +25,12 @@ int GridModel::rowCount(const QModelIndex& parent) const { return parent.isValid
 
 int GridModel::columnCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : columns_; }
 
+bool GridModel::standsRight(int column) const {
+    return grid_->columns()[static_cast<std::size_t>(column)].alignment == ui::Alignment::Right;
+}
+
 bool GridModel::isNumber(int row, int column) const {
+    if (standsRight(column)) return true;
     const data::Recordset& source = *grid_->DataSource();
     const data::Value& value = source.rows().at(source.visibleRows().at(static_cast<std::size_t>(row)),
                                                 static_cast<std::size_t>(column));
@@ -33,7 +38,8 @@ bool GridModel::isNumber(int row, int column) const {
 }
 
 bool GridModel::isNumberColumn(int column) const {
-    return rows_ > 0 && column >= 0 && column < columns_ && !isStale() && isNumber(0, column);
+    if (column < 0 || column >= columns_ || isStale()) return false;
+    return standsRight(column) || (rows_ > 0 && isNumber(0, column));
 }
 
 QVariant GridModel::data(const QModelIndex& index, int role) const {

@@ -16,7 +16,7 @@ public:
     void detach();
     /// Whether the view shows other counts than the grid has.
     [[nodiscard]] bool isStale() const;
-    /// Whether the column holds numbers, by its first row.
+    /// Whether the column holds numbers: by what the grid says of it, or by its first row.
     [[nodiscard]] bool isNumberColumn(int column) const;
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
@@ -25,6 +25,7 @@ public:
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 private:
+    [[nodiscard]] bool standsRight(int column) const;
     [[nodiscard]] bool isNumber(int row, int column) const;
 
     const ui::DataGrid* grid_;

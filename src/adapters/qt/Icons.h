@@ -9,7 +9,7 @@
 class QPainter;
 class QString;
 
-/// The toolkit's own pictures, drawn in lines so that they are sharp at every size.
+/// The toolkit's own pictures: the drawings icons/*.svg, in a colour of the skin.
 namespace quillmere::qt::icons {
 
 enum class Glyph {
@@ -34,7 +34,6 @@ enum class Glyph {
     ChevronRight,
 };
 
-/// Straight lines are set on whole pixels of the screen, whatever its scale.
 void paint(QPainter& painter, Glyph glyph, const QRect& place, const QColor& colour);
 
 /// In a colour of the skin that is worn when the picture is painted, pale when disabled.

@@ -3,13 +3,11 @@
 #include "adapters/qt/AccessibleRoles.h"
 #include "adapters/qt/FormPeer.h"
 #include "adapters/qt/Icons.h"
-#include "adapters/qt/QtText.h"
+#include "adapters/qt/PictureFile.h"
 #include "adapters/qt/Style.h"
 
-#include "platform/files/Files.h"
 #include "platform/ui/Image.h"
 
-#include <QImageReader>
 #include <QPainter>
 
 namespace quillmere::qt {
@@ -18,7 +16,7 @@ namespace {
 
 constexpr QSize portrait(114, 152);
 /// A photo from a camera is cut down to what a screen can show.
-constexpr int largestSide = 1200;
+constexpr QSize largestPicture(1200, 1200);
 
 class PictureWidget final : public QWidget {
 public:
@@ -58,19 +56,6 @@ private:
     QImage picture_;
 };
 
-QImage readPicture(const std::string& path) {
-    if (path.empty()) return {};
-    QImageReader reader(toQt(files::native(path)));
-    // A file may bear a name that tells another format than the one it has.
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.width() > largestSide || size.height() > largestSide) {
-        reader.setScaledSize(size.scaled(largestSide, largestSide, Qt::KeepAspectRatio));
-    }
-    return reader.read();
-}
-
 } // namespace
 
 ImagePeer::ImagePeer(FormPeer& form, ui::Control& control)
@@ -80,7 +65,7 @@ ImagePeer::ImagePeer(FormPeer& form, ui::Control& control)
 
 void ImagePeer::mirror(ui::Property property) {
     if (property != ui::Property::Picture) return;
-    static_cast<PictureWidget*>(widget())->show(readPicture(as<ui::Image>().Picture()));
+    static_cast<PictureWidget*>(widget())->show(readPicture(as<ui::Image>().Picture(), largestPicture));
 }
 
 bool ImagePeer::mousePressed(QMouseEvent& event, QWidget& /*target*/) {

@@ -10,6 +10,8 @@
 #include <QLabel>
 #include <QRegularExpression>
 
+#include <utility>
+
 namespace quillmere::qt {
 
 LabelPeer::LabelPeer(FormPeer& form, ui::Control& control)
@@ -27,6 +29,11 @@ void LabelPeer::showAsLegend() {
     showCaption();
 }
 
+void LabelPeer::onPicture(std::function<void(const std::string& path)> show) {
+    showPicture_ = std::move(show);
+    mirror(ui::Property::Picture);
+}
+
 void LabelPeer::showCaption() {
     const QString caption = toQt(as<ui::Label>().Caption());
     if (!legend_) {
@@ -42,6 +49,7 @@ void LabelPeer::showCaption() {
 void LabelPeer::mirror(ui::Property property) {
     const auto& model = as<ui::Label>();
     if (property == ui::Property::Caption) showCaption();
+    if (property == ui::Property::Picture && showPicture_) showPicture_(model.Picture());
     if (property != ui::Property::Font) return;
     QFont font = formPeer().window().font();
     font.setBold(model.FontBold());

@@ -2,6 +2,9 @@
 
 #include "adapters/qt/ControlPeer.h"
 
+#include <functional>
+#include <string>
+
 class QLabel;
 
 namespace quillmere::qt {
@@ -16,6 +19,9 @@ public:
     /// coded fields.
     void showAsLegend();
 
+    /// Whoever shows the picture beside the label: is told of the one it has now, and of each that follows.
+    void onPicture(std::function<void(const std::string& path)> show);
+
     bool mousePressed(QMouseEvent& event, QWidget& target) override;
 
 protected:
@@ -24,6 +30,7 @@ protected:
 private:
     void showCaption();
 
+    std::function<void(const std::string& path)> showPicture_;
     bool legend_ = false;
 };
 

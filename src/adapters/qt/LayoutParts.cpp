@@ -1,5 +1,6 @@
 #include "adapters/qt/LayoutParts.h"
 
+#include "adapters/qt/FocusRing.h"
 #include "adapters/qt/LabelPeer.h"
 
 #include <QEvent>
@@ -83,9 +84,11 @@ void addGridCard(QVBoxLayout& column, const std::vector<ControlPeer*>& grids,
     auto* card = new GridCard;
     card->setProperty("role", "card");
     auto* inside = new QVBoxLayout(card);
-    inside->setContentsMargins(1, 1, 1, 1);
+    // The heading reaches the border; the last row keeps off the round corners.
+    inside->setContentsMargins(0, 0, 0, 4);
     inside->setSpacing(0);
     if (!buttons.empty() || !notes.empty()) {
+        card->setProperty("headed", true);
         auto* row = new QHBoxLayout;
         row->setContentsMargins(14, 8, 8, 8);
         row->setSpacing(8);
@@ -101,6 +104,7 @@ void addGridCard(QVBoxLayout& column, const std::vector<ControlPeer*>& grids,
     for (ControlPeer* grid : grids) {
         grid->widget()->setMinimumHeight(lowestGrid);
         inside->addWidget(grid->widget(), 1);
+        new FocusRing(*grid->widget());
     }
     for (const auto* list : {&grids, &buttons}) {
         for (ControlPeer* peer : *list)

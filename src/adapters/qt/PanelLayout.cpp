@@ -24,8 +24,6 @@ namespace quillmere::qt {
 namespace {
 
 constexpr int helpHeight = 32;
-/// The photo and its button, whatever that says.
-constexpr int photoWidth = 212;
 
 /// Frames of the old drawing that only framed the help and the legend; both have places of their own.
 bool isDrawnFrame(const ui::Control* control) {
@@ -116,17 +114,16 @@ private:
         card.addWidget(makeRule());
     }
 
-    /// The photo stands like a field: its caption before it, its button behind.
+    /// The photo stands like a field: its caption before it, and its button below.
     void addPhoto(FieldGrid& fields) {
         auto* picture = new QWidget;
         auto* row = new QHBoxLayout(picture);
         row->setContentsMargins(0, 0, 0, 0);
-        row->setSpacing(8);
-        row->addWidget(group_.images.front()->widget());
-        if (ControlPeer* button = photoButton(); button != nullptr) {
-            row->addWidget(button->widget(), 0, Qt::AlignBottom);
-            picture->setMinimumWidth(photoWidth);
-        }
+        auto* column = new QVBoxLayout;
+        column->setSpacing(7);
+        column->addWidget(group_.images.front()->widget());
+        if (ControlPeer* button = photoButton(); button != nullptr) column->addWidget(button->widget());
+        row->addLayout(column);
         row->addStretch(1);
         QLabel* caption = nullptr;
         if (!group_.notes.empty()) {
@@ -139,7 +136,7 @@ private:
     void addFieldCard() {
         QFrame* card = makeCard();
         auto* inside = new QVBoxLayout(card);
-        inside->setContentsMargins(1, 1, 1, 1);
+        inside->setContentsMargins(0, 0, 0, 0);
         inside->setSpacing(0);
         addHeader(*inside);
         auto* fields = new FieldGrid(group_.fields);

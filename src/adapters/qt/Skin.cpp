@@ -1,7 +1,7 @@
 #include "adapters/qt/Skin.h"
 
-#include "adapters/qt/LightSkin.h"
 #include "adapters/qt/QtText.h"
+#include "adapters/qt/Resources.h"
 #include "adapters/qt/SkinText.h"
 
 #include "platform/files/Files.h"
@@ -64,7 +64,7 @@ std::optional<QString> textOf(const std::string& path) {
 }
 
 const SkinText& lightText() {
-    static const SkinText text = readSkin(QString::fromUtf8(lightSkin));
+    static const SkinText text = readSkin(QString::fromUtf8(resource(QStringLiteral("light.qss"))));
     return text;
 }
 

@@ -42,7 +42,7 @@ struct Colours {
 /// What windows are dressed in: colours, and the style sheet that is made with them.
 class Skin {
 public:
-    /// The toolkit's own, which is the file skins/light.qss.
+    /// The toolkit's own, which is the file sample/skins/light.qss.
     [[nodiscard]] static const Skin& light();
 
     /// The text of a skin file, laid over the light one. What it lacks, or what cannot be understood,

@@ -10,9 +10,12 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QGuiApplication>
+#include <QHelpEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QStyleOptionFrame>
 #include <QToolButton>
+#include <QToolTip>
 
 #include <algorithm>
 #include <array>
@@ -31,6 +34,14 @@ public:
     TextEntry* peer = nullptr;
 
 protected:
+    bool event(QEvent* event) override {
+        if (event->type() != QEvent::ToolTip || !toolTip().isEmpty() || !isTextCut())
+            return QLineEdit::event(event);
+        const QString whole = QStringLiteral("<span>%1</span>").arg(text().toHtmlEscaped());
+        QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), whole, this);
+        return true;
+    }
+
     void inputMethodEvent(QInputMethodEvent* event) override {
         guarded([&] {
             peer->compose(*event, [this](QInputMethodEvent& part) { QLineEdit::inputMethodEvent(&part); });
@@ -69,6 +80,19 @@ protected:
         commands.selectAll = [this] { selectAll(); };
         showEditMenu(*this, event->globalPos(), commands);
     }
+
+private:
+    /// Whether the text is longer than the box.
+    [[nodiscard]] bool isTextCut() const {
+        QStyleOptionFrame frame;
+        initStyleOption(&frame);
+        QRect room = style()->subElementRect(QStyle::SE_LineEditContents, &frame, this);
+        for (const auto* button : findChildren<QToolButton*>())
+            room.setRight(std::min(room.right(), button->x()));
+        // The box keeps its text off both edges by this.
+        constexpr int innerMargins = 4;
+        return fontMetrics().horizontalAdvance(text()) > room.width() - innerMargins;
+    }
 };
 
 constexpr std::array nativeCommands{
@@ -100,6 +124,7 @@ TextBoxPeer::TextBoxPeer(FormPeer& form, ui::Control& control)
     : TextEntry(form, control, new LineEditor(&form.window())) {
     static_cast<LineEditor&>(editor()).peer = this;
     showLooks();
+    mirror(ui::Property::Alignment);
     mirror(ui::Property::Text);
     connect(&editor(), &QLineEdit::textEdited, this, [this] { guarded([this] { follow(); }); });
     connect(&editor(), &QLineEdit::cursorPositionChanged, this, [this] { guarded([this] { follow(); }); });
@@ -138,6 +163,13 @@ bool TextBoxPeer::isNativeCommand(const QKeyEvent& event) const {
 }
 
 void TextBoxPeer::pressEnter() { form().pressKey({ui::key::Enter, ui::shift::None}); }
+
+void TextBoxPeer::mirror(ui::Property property) {
+    TextEntry::mirror(property);
+    if (property != ui::Property::Alignment) return;
+    const bool right = box().Alignment() == ui::Alignment::Right;
+    editor().setAlignment((right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+}
 
 void TextBoxPeer::showLooks() {
     editor().setReadOnly(box().Locked());

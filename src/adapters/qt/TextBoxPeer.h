@@ -21,6 +21,7 @@ protected:
     void insert(const QString& text) override;
     void eraseBackwards() override;
     void showLooks() override;
+    void mirror(ui::Property property) override;
     [[nodiscard]] QString fromModel(const std::string& text) const override;
     [[nodiscard]] std::string toModel(const QString& text) const override;
     [[nodiscard]] bool isNativeCommand(const QKeyEvent& event) const override;

@@ -3,6 +3,7 @@
 #include "adapters/qt/DialogLayout.h"
 #include "adapters/qt/FormPeer.h"
 #include "adapters/qt/LabelPeer.h"
+#include "adapters/qt/NameStrip.h"
 #include "adapters/qt/PanelPeer.h"
 #include "adapters/qt/Style.h"
 
@@ -34,9 +35,12 @@ QWidget* makeTopBar(FormPeer& form) {
     bar->setFixedHeight(barHeight);
     auto* row = new QHBoxLayout(bar);
     row->setContentsMargins(12, 0, 14, 0);
-    put(form, *row, "TbMain", 1);
-    if (ControlPeer* name = put(form, *row, "labPersonName", 0); name != nullptr) {
-        setLook(*name->widget(), "role", "personName");
+    const ControlPeer* toolbar = put(form, *row, "TbMain", 1);
+    auto* name = dynamic_cast<LabelPeer*>(form.peerOf(form.form().find("labPersonName")));
+    if (toolbar != nullptr && name != nullptr) {
+        setLook(name->label(), "role", "personName");
+        row->addWidget(new NameStrip(*name, *toolbar->widget(), *bar));
+        name->place();
     }
     return bar;
 }

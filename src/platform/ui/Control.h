@@ -48,6 +48,7 @@ enum class Property {
     Selection,
     Locked,
     MaxLength,
+    Alignment,
     Value,
     Items,
     Columns,

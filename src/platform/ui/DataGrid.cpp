@@ -18,7 +18,7 @@ void DataGrid::setDataSource(std::shared_ptr<data::Recordset> source) {
     columns_.clear();
     if (hasRows()) {
         for (const std::string& name : source_->rows().columns())
-            columns_.push_back({name, 2000, true});
+            columns_.push_back({.heading = name});
     }
     if (source_) source_->onViewChange([this] { notify(hasRows() ? Property::Current : Property::Rows); });
     notify(Property::Columns);
@@ -41,6 +41,12 @@ void DataGrid::setColumnVisible(std::size_t column, bool visible) {
 void DataGrid::setColumnHeading(std::size_t column, std::string heading) {
     if (column >= columns_.size()) throw Error(Failure::SubscriptOutOfRange);
     columns_[column].heading = std::move(heading);
+    notify(Property::Columns);
+}
+
+void DataGrid::setColumnAlignment(std::size_t column, Alignment alignment) {
+    if (column >= columns_.size()) throw Error(Failure::SubscriptOutOfRange);
+    columns_[column].alignment = alignment;
     notify(Property::Columns);
 }
 

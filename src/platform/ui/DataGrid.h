@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/data/Recordset.h"
+#include "platform/ui/Alignment.h"
 #include "platform/ui/Control.h"
 
 #include <memory>
@@ -16,6 +17,7 @@ public:
         /// Twips.
         int width = 2000;
         bool visible = true;
+        Alignment alignment = Alignment::Left;
     };
 
     explicit DataGrid(std::string name) : Control(Kind::DataGrid, std::move(name)) {}
@@ -30,6 +32,7 @@ public:
     void setColumnWidth(std::size_t column, int twips);
     void setColumnVisible(std::size_t column, bool visible);
     void setColumnHeading(std::size_t column, std::string heading);
+    void setColumnAlignment(std::size_t column, Alignment alignment);
 
     [[nodiscard]] std::size_t rowCount() const;
     /// What a cell shows; nulls show nothing. Row and column from 0.

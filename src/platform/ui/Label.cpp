@@ -21,6 +21,11 @@ void Label::setFontName(std::string name) {
     notify(Property::Font);
 }
 
+void Label::setPicture(std::string path) {
+    picture_ = std::move(path);
+    notify(Property::Picture);
+}
+
 std::optional<std::string> Label::property(std::string_view name) const {
     if (text::equalsNoCase(name, "Caption")) return caption_;
     if (text::equalsNoCase(name, "FontBold")) return bold_ ? "true" : "false";

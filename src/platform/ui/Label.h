@@ -4,6 +4,7 @@
 
 namespace quillmere::ui {
 
+/// A text, with a picture beside it where the one that the text names has one.
 class Label : public Control {
 public:
     explicit Label(std::string name, std::string caption = {})
@@ -17,11 +18,17 @@ public:
     [[nodiscard]] const std::string& FontName() const { return fontName_; }
     void setFontName(std::string name);
 
+    /// A picture file, which may be missing; empty for none. It shows where there is room.
+    [[nodiscard]] const std::string& Picture() const { return picture_; }
+    /// Shows the file anew, also under a path that is on show: the file may have been replaced.
+    void setPicture(std::string path);
+
     [[nodiscard]] std::optional<std::string> property(std::string_view name) const override;
 
 private:
     std::string caption_;
     std::string fontName_;
+    std::string picture_;
     bool bold_ = false;
 };
 

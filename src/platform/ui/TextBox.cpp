@@ -87,6 +87,12 @@ void TextBox::setMaxLength(std::size_t length) {
     notify(Property::MaxLength);
 }
 
+void TextBox::setAlignment(ui::Alignment alignment) {
+    if (alignment_ == alignment) return;
+    alignment_ = alignment;
+    notify(Property::Alignment);
+}
+
 void TextBox::setBackColor(Colour colour) {
     if (backColor_ == colour) return;
     backColor_ = colour;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ui/Alignment.h"
 #include "platform/ui/Colour.h"
 #include "platform/ui/Control.h"
 #include "platform/ui/Selection.h"
@@ -23,6 +24,8 @@ public:
     void setMaxLength(std::size_t length);
     [[nodiscard]] bool MultiLine() const { return multiLine_; }
     void setMultiLine(bool multiLine) { multiLine_ = multiLine; }
+    [[nodiscard]] ui::Alignment Alignment() const { return alignment_; }
+    void setAlignment(ui::Alignment alignment);
     [[nodiscard]] Colour BackColor() const { return backColor_; }
     void setBackColor(Colour colour);
     [[nodiscard]] std::size_t SelStart() const { return selection_.start; }
@@ -62,6 +65,7 @@ private:
     std::size_t maxLength_ = 0;
     Selection selection_;
     Colour backColor_ = colour::window;
+    ui::Alignment alignment_ = ui::Alignment::Left;
     bool locked_ = false;
     bool multiLine_ = false;
 };
