@@ -16,6 +16,7 @@ namespace {
 /// Records looked through in one statement: some tens of milliseconds at most, so that a newer search
 /// never waits long.
 constexpr RecordKey sliceSize = 20000;
+constexpr int everyPermille = 1000;
 
 /// Behind every character that a name may go on with.
 const QString lastCharacter = QString::fromUcs4(U"\U0010FFFF", 1);
@@ -52,6 +53,16 @@ public:
             .toStdString();
     }
 
+    /// Every record whose project is at the stage, by way of the project: the index of stages leads to them,
+    /// and no record of another stage is read.
+    [[nodiscard]] std::string ofStage() const {
+        return (QStringLiteral("select distinct %1.rowid from P01 cross join %1 where %1.A00=P01.A00")
+                    .arg(table_) +
+                QStringLiteral(" and P01.P0123=") + literal(query_.stage) + ofType() +
+                QStringLiteral(" order by %1.rowid desc").arg(table_))
+            .toStdString();
+    }
+
     /// The records from `first` to `last` that hold the text elsewhere. With `initials` every other record
     /// comes too; name and whether the text was found are then told of each.
     [[nodiscard]] std::string slice(RecordKey first, RecordKey last, bool initials) const {
@@ -84,10 +95,13 @@ private:
         return u'(' + alternatives.join(QStringLiteral(" or ")) + u')';
     }
 
+    [[nodiscard]] QString ofType() const {
+        if (query_.kind != Kind::Persons || query_.type == 0) return {};
+        return QStringLiteral(" and A0136 in ('0%1','%1')").arg(query_.type);
+    }
+
     [[nodiscard]] QString filters() const {
-        QString text;
-        if (query_.kind == Kind::Persons && query_.type != 0)
-            text += QStringLiteral(" and A0136 in ('0%1','%1')").arg(query_.type);
+        QString text = ofType();
         if (!query_.stage.isEmpty()) {
             text += QStringLiteral(" and exists (select 1 from P01 where P01.A00=%1.A00 and P01.P0123=")
                         .arg(table_) +
@@ -129,6 +143,8 @@ std::vector<RecordKey> keysByInitials(const data::RowSet& rows, const QString& l
 bool search(data::Connection& connection, const Query& query, const HearStep& hear) {
     const Statements statements(query);
     const QString text = query.wanted();
+    if (text.isEmpty() && !query.stage.isEmpty())
+        return hear({keysOf(connection.query(statements.ofStage())), everyPermille});
     if (!text.isEmpty() && !hear({keysOf(connection.query(statements.beginning())), 0})) return false;
 
     const data::RowSet span = connection.query(statements.span());
@@ -138,7 +154,7 @@ bool search(data::Connection& connection, const Query& query, const HearStep& he
     for (RecordKey last = newest; last >= oldest; last -= sliceSize) {
         const RecordKey first = std::max(oldest, last - sliceSize + 1);
         const data::RowSet rows = connection.query(statements.slice(first, last, initials));
-        const RecordKey permille = (newest - first + 1) * 1000 / (newest - oldest + 1);
+        const RecordKey permille = (newest - first + 1) * everyPermille / (newest - oldest + 1);
         if (!hear({initials ? keysByInitials(rows, text) : keysOf(rows), static_cast<int>(permille)}))
             return false;
     }

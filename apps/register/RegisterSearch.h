@@ -27,7 +27,8 @@ using HearStep = std::function<bool(SearchStep step)>;
 
 /// Looks for the records of a query. Those whose name begins with the text come first, from the index of
 /// names; then the register is looked through in slices, from the newest record to the oldest, for those
-/// that hold the text elsewhere. True when it came to its end. Raises quillmere::Error.
+/// that hold the text elsewhere. Without a text the records of a stage come at once, from the index of
+/// stages. True when it came to its end. Raises quillmere::Error.
 [[nodiscard]] bool search(data::Connection& connection, const Query& query, const HearStep& hear);
 
 } // namespace quillmere::host

@@ -63,7 +63,9 @@ protected:
         connection->execute("create table A01 (A00 text, A0199 integer, A0101 text collate nocase, "
                             "A0103 text collate nocase, A0114 text collate nocase, A0136 text)");
         connection->execute("create index IX_A01_A0101 on A01 (A0101)");
+        connection->execute("create unique index UX_A01_A00 on A01 (A00)");
         connection->execute("create table P01 (A00 text, P0123 text)");
+        connection->execute("create index IX_P01_P0123 on P01 (P0123, A00)");
     }
 
     [[nodiscard]] std::shared_ptr<data::Connection> connect() const {
@@ -82,15 +84,21 @@ protected:
                             std::to_string(key) + "','" + name + "','" + unit + "')");
     }
 
+    void addProject(RecordKey key, const std::string& stage) const {
+        connection->execute("insert into P01 values('" + std::to_string(key) + "','" + stage + "')");
+    }
+
     [[nodiscard]] static Query asking(const char* text) {
         Query query;
         query.text = QString::fromUtf8(text);
         return query;
     }
 
-    [[nodiscard]] std::vector<RecordKey> keysFor(const char* text) const {
+    [[nodiscard]] std::vector<RecordKey> keysFor(const char* text) const { return keysFor(asking(text)); }
+
+    [[nodiscard]] std::vector<RecordKey> keysFor(const Query& query) const {
         std::vector<RecordKey> keys;
-        EXPECT_TRUE(search(*connection, asking(text), [&keys](const SearchStep& step) {
+        EXPECT_TRUE(search(*connection, query, [&keys](const SearchStep& step) {
             keys.insert(keys.end(), step.keys.begin(), step.keys.end());
             return true;
         }));
@@ -126,6 +134,47 @@ TEST_F(RegisterSearchTest, ARecordWithoutANameIsFoundByItsUnit) {
 }
 
 TEST_F(RegisterSearchTest, AnEmptyRegisterIsLookedThrough) { EXPECT_TRUE(keysFor("望").empty()); }
+
+TEST_F(RegisterSearchTest, AStageAloneFindsItsRecordsFromTheNewestOnEachOnce) {
+    for (RecordKey key = 1; key <= 4; ++key)
+        add(key, "甲");
+    addProject(1, "02");
+    addProject(2, "01");
+    addProject(4, "02");
+    addProject(4, "02");
+    Query query;
+    query.stage = QStringLiteral("02");
+    EXPECT_EQ(keysFor(query), Keys({4, 1}));
+    connection->execute("update A01 set A0136='04' where rowid=1");
+    query.type = 4;
+    EXPECT_EQ(keysFor(query), Keys({1}));
+}
+
+TEST_F(RegisterSearchTest, AStageBesideATextFindsWhatIsBoth) {
+    add(1, "望舒");
+    add(2, "望舒");
+    add(3, "甲", "望京医院");
+    add(4, "甲");
+    for (const RecordKey key : {1, 3, 4})
+        addProject(key, "03");
+    Query query = asking("望");
+    query.stage = QStringLiteral("03");
+    EXPECT_EQ(keysFor(query), Keys({1, 3}));
+}
+
+TEST_F(RegisterSearchTest, AStageIsLookedUpInTheIndexesAlone) {
+    data::RecordingConnection recording(connection);
+    Query query;
+    query.stage = QStringLiteral("02");
+    EXPECT_TRUE(search(recording, query, [](const SearchStep&) { return true; }));
+    ASSERT_EQ(recording.statements().size(), 1U);
+    const data::RowSet plan = connection->query("explain query plan " + recording.statements().front());
+    ASSERT_GE(plan.rowCount(), 2U);
+    EXPECT_EQ(plan.at(0, std::string_view("detail")).toText(),
+              "SEARCH P01 USING COVERING INDEX IX_P01_P0123 (P0123=?)");
+    EXPECT_EQ(plan.at(1, std::string_view("detail")).toText(),
+              "SEARCH A01 USING COVERING INDEX UX_A01_A00 (A00=?)");
+}
 
 TEST_F(RegisterSearchTest, TheBeginningOfNamesIsLookedUpInTheIndex) {
     data::RecordingConnection recording(connection);

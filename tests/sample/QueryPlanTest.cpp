@@ -73,6 +73,8 @@ constexpr const char* statementsInUse[] = {
     // The reference host's list.
     "select * from A01 order by A0199 desc limit 200 offset 400",
     "select * from B01 order by B0199 desc limit 200 offset 400",
+    "select distinct A01.rowid from P01 cross join A01 where A01.A00=P01.A00 and P01.P0123='02' order by "
+    "A01.rowid desc",
 };
 
 /// Tables whose size does not grow with the register: reading one whole costs next to nothing.
