@@ -15,9 +15,11 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QTimer>
+#include <QToolButton>
 
 #include <algorithm>
 #include <map>
+#include <set>
 
 namespace quillmere::test {
 
@@ -37,12 +39,9 @@ std::string descriptionOf(QAccessibleInterface& access) {
     return access.text(QAccessible::Description).toStdString();
 }
 
-/// The object names of the widgets of the accessible tree below and including this one, each with what
-/// reads it. Widgets that do not show are left out.
-void collect(QAccessibleInterface& access, std::map<std::string, QAccessibleInterface*>& found) {
-    const QObject* object = access.object();
-    if (object != nullptr && !access.state().invisible && !object->objectName().isEmpty())
-        found.emplace(object->objectName().toStdString(), &access);
+/// What reads the widgets that show, this one and all within it.
+void collect(QAccessibleInterface& access, std::vector<QAccessibleInterface*>& found) {
+    if (access.object() != nullptr && !access.state().invisible) found.push_back(&access);
     for (int i = 0; i < access.childCount(); ++i) {
         QAccessibleInterface* child = access.child(i);
         if (child != nullptr && child->object() != nullptr && child->object()->isWidgetType())
@@ -50,10 +49,37 @@ void collect(QAccessibleInterface& access, std::map<std::string, QAccessibleInte
     }
 }
 
-std::map<std::string, QAccessibleInterface*> treeOf(std::string_view window) {
-    std::map<std::string, QAccessibleInterface*> found;
-    collect(accessOf(windowNamed(window)), found);
+using Tree = std::map<std::string, QAccessibleInterface*>;
+
+/// By object names.
+Tree treeOf(std::string_view window) {
+    std::vector<QAccessibleInterface*> all;
+    collect(accessOf(windowNamed(window)), all);
+    Tree found;
+    for (QAccessibleInterface* access : all)
+        found.emplace(access->object()->objectName().toStdString(), access);
     return found;
+}
+
+/// Whether a person works with a thing of this role, so that it needs a name.
+bool isWorkedWith(QAccessible::Role role) {
+    static const std::set<QAccessible::Role> roles{
+        QAccessible::Button, QAccessible::CheckBox, QAccessible::EditableText, QAccessible::MenuItem,
+        QAccessible::Table,  QAccessible::Tree,     QAccessible::List,         QAccessible::PageTabList};
+    return roles.contains(role);
+}
+
+/// Everything in the window that a person works with is called something.
+void expectNoneNameless(std::string_view window, std::string_view where) {
+    std::vector<QAccessibleInterface*> all;
+    collect(accessOf(windowNamed(window)), all);
+    int named = 0;
+    for (QAccessibleInterface* access : all) {
+        if (!isWorkedWith(access->role())) continue;
+        ++named;
+        EXPECT_NE("", nameOf(*access)) << where << ": " << access->object()->objectName().toStdString();
+    }
+    EXPECT_GT(named, 0) << where;
 }
 
 std::string withoutBlanks(std::string_view caption) {
@@ -69,8 +95,7 @@ bool isLabelledBy(QAccessibleInterface& field, const std::string& label) {
     return false;
 }
 
-void expectRead(const FieldRow& row, const std::string& stem,
-                const std::map<std::string, QAccessibleInterface*>& tree, const ui::Control& control) {
+void expectRead(const FieldRow& row, const std::string& stem, const Tree& tree, const ui::Control& control) {
     const std::string where = stem + " " + std::string(row.caption);
     const auto found = tree.find(stem + "_v");
     ASSERT_NE(tree.end(), found) << where;
@@ -88,8 +113,9 @@ void expectRead(const FieldRow& row, const std::string& stem,
     EXPECT_EQ(!control.isUsable(), static_cast<bool>(state.disabled)) << where;
     EXPECT_EQ(coded, static_cast<bool>(state.readOnly)) << where;
     EXPECT_EQ(coded, descriptionOf(field).find("按 F2 键或双击选择代码") != std::string::npos) << where;
-    const std::string unit = row.unit.empty() ? "" : "单位：" + withoutBlanks(row.unit);
-    EXPECT_NE(std::string::npos, descriptionOf(field).find(unit)) << where << descriptionOf(field);
+    const std::string unit = "单位：" + withoutBlanks(row.unit);
+    EXPECT_EQ(!row.unit.empty(), descriptionOf(field).find(unit) != std::string::npos)
+        << where << descriptionOf(field);
     if (check) {
         const bool checked = static_cast<const ui::CheckBox&>(control).Value() != 0;
         EXPECT_EQ(checked, static_cast<bool>(state.checked)) << where;
@@ -132,25 +158,50 @@ using AccessibleTest = MaintenanceTest;
 } // namespace
 
 TEST_F(AccessibleTest, EveryFieldOfEveryPanelIsNamedByItsCaptionAndSaysWhatItIs) {
-    maintain([&](frmPersonWh& window) {
-        EXPECT_EQ(73U, panelCatalogue().size());
-        for (const PanelRow& row : panelCatalogue()) {
-            A1ctrlUser& panel = window.LoadUCtrl(row.className);
-            window.IniUCtrl(panel, row.widgetTable, 4);
-            settle();
-            const auto tree = treeOf("frmPersonWh");
-            for (const FieldRow& field : row.fields) {
-                const std::string stem = std::string(row.widgetTable) + "_" + std::string(field.code);
-                ui::Control& control = *panel.find(stem + "_v");
-                if (control.isShown()) expectRead(field, stem, tree, control);
-            }
-            if (const auto grid = tree.find("DGItems"); grid != tree.end()) {
-                EXPECT_EQ(QAccessible::Table, grid->second->role());
-                EXPECT_EQ(withoutBlanks(controlOf<ui::Label>(window, "Title").Caption()),
-                          nameOf(*grid->second));
-            }
+    EXPECT_EQ(73U, panelCatalogue().size());
+    std::set<std::string> read;
+    const auto readPanel = [&](frmPersonWh& window, const PanelRow& row) {
+        A1ctrlUser& panel = window.LoadUCtrl(row.className);
+        window.IniUCtrl(panel, row.widgetTable, 4);
+        settle();
+        const Tree tree = treeOf("frmPersonWh");
+        for (const FieldRow& field : row.fields) {
+            const std::string stem = std::string(row.widgetTable) + "_" + std::string(field.code);
+            ui::Control& control = *panel.find(stem + "_v");
+            if (!control.isShown()) continue;
+            expectRead(field, stem, tree, control);
+            read.insert(std::string(row.className) + " " + stem);
         }
-    });
+        // The grid of a set that holds one record has nothing to list, and does not show.
+        const bool lists = panel.find("DGItems") != nullptr && panel.WhInfo.IsMult;
+        EXPECT_EQ(lists, tree.contains("DGItems")) << row.className;
+        if (const auto grid = tree.find("DGItems"); grid != tree.end()) {
+            EXPECT_EQ(QAccessible::Table, grid->second->role());
+            EXPECT_EQ(withoutBlanks(controlOf<ui::Label>(window, "Title").Caption()), nameOf(*grid->second));
+        }
+        expectNoneNameless("frmPersonWh", row.className);
+    };
+    const auto unread = [&](const PanelRow& row) {
+        std::vector<std::string> fields;
+        for (const FieldRow& field : row.fields) {
+            std::string name = std::string(row.className) + " " + std::string(row.widgetTable) + "_" +
+                               std::string(field.code);
+            if (!read.contains(name)) fields.push_back(std::move(name));
+        }
+        return fields;
+    };
+    // What one sponsorship type hides, another shows.
+    for (std::int16_t type = 1; type <= 7; ++type) {
+        maintain(
+            [&](frmPersonWh& window) {
+                for (const PanelRow& row : panelCatalogue()) {
+                    if (type == 1 || !unread(row).empty()) readPanel(window, row);
+                }
+            },
+            type);
+    }
+    for (const PanelRow& row : panelCatalogue())
+        EXPECT_EQ(unread(row), std::vector<std::string>());
 }
 
 TEST_F(AccessibleTest, ARequiredFieldSaysSo) {
@@ -231,6 +282,18 @@ TEST_F(AccessibleTest, AnItemOfTheMenuIsPressedByAnAssistiveProgramAndSelectedTh
     });
 }
 
+TEST_F(AccessibleTest, AnAssistiveProgramThatPressesAToolButtonHasItsAnswerBeforeAWindowOpens) {
+    maintain([&](frmPersonWh&) {
+        bool opened = false;
+        screen.person.onForm([&](ui::Form&) { opened = true; }, "fmGrpCod");
+        auto* codes = widgetNamed("A01_A0104_v").findChild<QToolButton*>();
+        ASSERT_NE(nullptr, codes);
+        accessOf(*codes).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        EXPECT_FALSE(opened);
+        EXPECT_TRUE(waitUntil([&] { return opened; }));
+    });
+}
+
 TEST_F(AccessibleTest, TheMessageOfARefusedFieldIsAnAlertThatReadsItself) {
     maintain([&](frmPersonWh&) {
         clickOn(widgetNamed("A01_A0103_v"));
@@ -275,6 +338,7 @@ TEST_F(AccessibleTest, TheCodeSelectorIsADialogWithATreeAListAndPages) {
                 EXPECT_EQ(QAccessible::PageTab, pages.child(1)->role());
                 EXPECT_EQ("录入查询", nameOf(*pages.child(1)));
                 EXPECT_EQ("清空", nameOf(accessOf("cmdDel")));
+                expectNoneNameless("fmGrpCod", "性别代码表");
                 form.perform([&] { controlOf<ui::TabStrip>(form, "Tab1").setTab(1); });
                 EXPECT_EQ("录入查询请输入相应汉字或拼音首字母！", nameOf(accessOf("txtDm")));
                 EXPECT_EQ(QAccessible::List, accessOf("lstDmCpt").role());
@@ -301,6 +365,7 @@ TEST_F(AccessibleTest, TheRowEditorAndThePhotoPreviewNameTheirFieldsAndPictures)
                 EXPECT_EQ(amount ? "单位：万元" : "", descriptionOf(field)) << input.name;
             }
             EXPECT_EQ("保存", nameOf(accessOf(row.saveButton)));
+            expectNoneNameless("frmC04", row.saveButton);
         });
     }
     const PhotoFolder folder;
@@ -310,6 +375,7 @@ TEST_F(AccessibleTest, TheRowEditorAndThePhotoPreviewNameTheirFieldsAndPictures)
         EXPECT_EQ("当前没有照片", nameOf(accessOf("imgOld")));
         EXPECT_EQ("选择...", nameOf(accessOf("cmdSelPic")));
         EXPECT_EQ("确定", nameOf(accessOf("cmdOK")));
+        expectNoneNameless("frmPicturePreview", "照片预览");
     });
 }
 

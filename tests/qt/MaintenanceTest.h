@@ -23,12 +23,12 @@ protected:
                         .toText();
     }
 
-    void maintain(const std::function<void(frmPersonWh&)>& work) {
+    void maintain(const std::function<void(frmPersonWh&)>& work, std::int16_t zzType = 1) {
         screen.person.onForm([&](ui::Form& form) { work(static_cast<frmPersonWh&>(form)); }, "frmPersonWh");
         IUserCtrl host;
         host.setConnection(connection);
         host.setOperationType(4);
-        host.setZZtype(1);
+        host.setZZtype(zzType);
         host.setPersonID(personKey);
         (void)host.ShowPersonWh();
     }

@@ -21,13 +21,13 @@ def centre(place):
 class Register:
     """Use it in a `with`; a program that still runs at its end is ended."""
 
-    def __init__(self, screen, program, plugins, database, log):
+    def __init__(self, screen, command, plugins, log):
         self.screen = screen
         reports = str(screen.folder / "report")
         environment = screen.environment | {
             "QT_QPA_PLATFORM": "xcb", "QT_PLUGIN_PATH": str(plugins),
             "QT_QPA_GENERIC_PLUGINS": "screenreport:" + reports}
-        self.process = subprocess.Popen([program, database], env=environment, stdin=subprocess.DEVNULL,
+        self.process = subprocess.Popen(command, env=environment, stdin=subprocess.DEVNULL,
                                         stdout=log, stderr=log)
         try:
             self.socket = socket.socket(socket.AF_UNIX)

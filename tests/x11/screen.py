@@ -57,8 +57,8 @@ class Screen:
     def _start_server(self):
         # The server picks a display that is free and tells its number when it is ready.
         numbers, told = os.pipe()
-        self._start("Xvfb", "-displayfd", str(told), "-screen", "0", "{}x{}x24".format(*SIZE),
-                    "-fbdir", str(self.folder), "-nolisten", "tcp", "-noreset", "-r", pass_fds=[told])
+        self.start("Xvfb", "-displayfd", str(told), "-screen", "0", "{}x{}x24".format(*SIZE),
+                   "-fbdir", str(self.folder), "-nolisten", "tcp", "-noreset", "-r", pass_fds=[told])
         os.close(told)
         with open(numbers, encoding="ascii") as line:
             ready, _, _ = select.select([line], [], [], 20)
@@ -73,12 +73,15 @@ class Screen:
             "XDG_RUNTIME_DIR": str(self.folder), "LANG": "C.UTF-8", "LC_ALL": "C.UTF-8"}
 
     def _start_window_manager(self):
-        self._start("openbox", "--sm-disable")
+        self.start("openbox", "--sm-disable")
         wait_until("the window manager", lambda: self._ask("get_num_desktops") is not None)
 
-    def _start(self, *command, **options):
-        self.processes.append(subprocess.Popen(command, env=self.environment, stdin=subprocess.DEVNULL,
-                                               stdout=self.log, stderr=self.log, **options))
+    def start(self, *command, **options):
+        """A program that ends with the screen, the last one first."""
+        channels = {"stdin": subprocess.DEVNULL, "stdout": self.log, "stderr": self.log}
+        process = subprocess.Popen(command, env=self.environment, **channels | options)
+        self.processes.append(process)
+        return process
 
     def _end(self):
         for process in reversed(self.processes):

@@ -11,6 +11,7 @@ import tempfile
 import time
 import traceback
 
+import assistance
 from register import MAIN, MESSAGE, Register
 from screen import Screen, missing_packages, wait_until
 
@@ -21,14 +22,17 @@ LONGEST_SECONDS = 240
 class Story(Register):
     """The register's program at work on a sample register of its own."""
 
-    def __init__(self, name, screen, arguments, log):
-        self.name = name
+    def __init__(self, screen, arguments, log, helper):
+        self.name = pathlib.Path(sys.argv[0]).stem
         self.pictures = arguments.pictures
+        self.helper = helper
         self.database = str(screen.folder / "register.db")
         subprocess.run([arguments.programs / "quillmere-sample", "--output", self.database, "--persons", "12",
                         "--units", "2"], check=True, stdout=log, stderr=log)
-        super().__init__(screen, arguments.programs / "quillmere-register", arguments.plugins, self.database,
-                         log)
+        super().__init__(screen, self.command(arguments.programs), arguments.plugins, log)
+
+    def command(self, programs):
+        return [programs / "quillmere-register", self.database]
 
     def picture(self, name):
         path = self.pictures / f"{self.name}-{name}.png"
@@ -82,27 +86,21 @@ def _give_up(number, _):
     raise AssertionError("the whole story took too long" if number == signal.SIGALRM else "called off")
 
 
-def _play(tell, name, arguments, folder):
+def _on_screen(play, arguments, folder):
     log_path = folder / "log"
     try:
         with open(log_path, "w", encoding="utf-8") as log, Screen(folder, log) as screen:
-            with Story(name, screen, arguments, log) as story:
-                try:
-                    tell(story)
-                    if story.process.poll() is None:
-                        raise AssertionError("the story left the program running")
-                except BaseException:
-                    story.picture("failed")
-                    raise
+            play(screen, arguments, log)
     except BaseException:
         # What the programs said, the sanitizers' reports among it.
         print(log_path.read_text(encoding="utf-8", errors="replace"), end="", flush=True)
         raise
 
 
-def run(tell):
-    """Plays a story; the process ends with 0, 1 for a failure, or 77 where it cannot be played."""
-    missing = missing_packages()
+def run_on_screen(play, assisted=False):
+    """Calls `play` with a screen, the arguments and a log. The process ends with 0, 1 for a failure, or 77 where
+    there can be no screen, or no assistive program if one is wanted."""
+    missing = missing_packages() + (assistance.missing_packages() if assisted else [])
     if missing:
         print("SKIPPED: no real window without " + ", ".join(missing) + " (scripts/install-packages test)")
         sys.exit(SKIPPED)
@@ -114,10 +112,26 @@ def run(tell):
     begin = time.monotonic()
     folder = pathlib.Path(tempfile.mkdtemp(prefix="quillmere-x11-"))
     try:
-        _play(tell, pathlib.Path(sys.argv[0]).stem, arguments, folder)
+        _on_screen(play, arguments, folder)
     except Exception:
         traceback.print_exc(file=sys.stdout)
         sys.exit(1)
     finally:
         shutil.rmtree(folder, ignore_errors=True)
     print(f"played in {time.monotonic() - begin:.1f} s")
+
+
+def run(tell, assisted=False, kind=Story):
+    """Plays a story with the register; when it is assisted, the story has a `helper` beside it."""
+    def play(screen, arguments, log):
+        helper = assistance.Assistance(screen) if assisted else None
+        with kind(screen, arguments, log, helper) as story:
+            try:
+                tell(story)
+                if story.process.poll() is None:
+                    raise AssertionError("the story left the program running")
+            except BaseException:
+                story.picture("failed")
+                raise
+
+    run_on_screen(play, assisted)

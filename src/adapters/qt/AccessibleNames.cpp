@@ -41,6 +41,11 @@ QString titleOf(const FormPeer& form, const ui::ControlHost& host) {
     return title == nullptr ? toQt(form.form().Caption()) : captionOf(*title);
 }
 
+/// Says nothing anew: every change is told to assistive programs, which may read it out again.
+void setName(QWidget& widget, const QString& name) {
+    if (widget.accessibleName() != name) widget.setAccessibleName(name);
+}
+
 void tellState(QWidget* button) {
     if (button == nullptr) return;
     QAccessible::State changed;
@@ -101,11 +106,10 @@ void AccessibleNames::nameOther(const ui::Control& control, const ControlPeer& p
     case ui::Kind::ListBox:
     case ui::Kind::TreeView:
     case ui::Kind::TabStrip:
-        peer.focusTarget()->setAccessibleName(title);
+        setName(*peer.focusTarget(), title);
         break;
     case ui::Kind::CommandButton:
-        peer.widget()->setAccessibleName(
-            spokenText(static_cast<const ui::CommandButton&>(control).Caption()));
+        setName(*peer.widget(), spokenText(static_cast<const ui::CommandButton&>(control).Caption()));
         break;
     case ui::Kind::Toolbar:
         nameButtons(peer);
@@ -119,23 +123,22 @@ void AccessibleNames::nameOther(const ui::Control& control, const ControlPeer& p
 }
 
 void AccessibleNames::nameButtons(const ControlPeer& toolbar) {
-    toolbar.widget()->setAccessibleName(QStringLiteral("工具栏"));
+    setName(*toolbar.widget(), QStringLiteral("工具栏"));
     for (const auto& model : static_cast<const ui::Toolbar*>(toolbar.control())->buttons()) {
         const QString name = toolbar.widget()->objectName() + QLatin1Char('_') + toQt(model->Key());
         auto* button = toolbar.widget()->findChild<QWidget*>(name);
-        if (button != nullptr && !model->isSeparator())
-            button->setAccessibleName(spokenText(model->Caption()));
+        if (button != nullptr && !model->isSeparator()) setName(*button, spokenText(model->Caption()));
     }
 }
 
 void AccessibleNames::nameMenu(const ControlPeer& menu) {
-    menu.widget()->setAccessibleName(QStringLiteral("菜单"));
+    setName(*menu.widget(), QStringLiteral("菜单"));
     // The items of a group stand in the widget behind the group's button.
     QString group;
     for (auto* widget : menu.widget()->findChildren<QWidget*>()) {
         const QString role = widget->property("role").toString();
         if (role == QStringLiteral("menuGroup")) group = widget->accessibleName();
-        if (role == QStringLiteral("menuItems")) widget->setAccessibleName(group);
+        if (role == QStringLiteral("menuItems")) setName(*widget, group);
     }
 }
 
@@ -145,7 +148,7 @@ void AccessibleNames::describe(const Entry& entry) const {
     if (field.caption != nullptr) {
         QLabel& caption = field.caption->label();
         if (caption.buddy() != field.editor->widget()) caption.setBuddy(field.editor->widget());
-        field.editor->widget()->setAccessibleName(captionOf(*field.caption));
+        setName(*field.editor->widget(), captionOf(*field.caption));
         if (static_cast<const ui::Label*>(field.caption->control())->FontBold())
             description << QStringLiteral("必填");
     }
@@ -154,7 +157,9 @@ void AccessibleNames::describe(const Entry& entry) const {
     if (field.unit != nullptr && !captionOf(*field.unit).isEmpty())
         description << QStringLiteral("单位：") + captionOf(*field.unit);
     if (!help.isEmpty()) description << help;
-    field.editor->widget()->setAccessibleDescription(description.join(QStringLiteral("；")));
+    const QString told = description.join(QStringLiteral("；"));
+    QWidget& editor = *field.editor->widget();
+    if (editor.accessibleDescription() != told) editor.setAccessibleDescription(told);
 }
 
 AccessibleNames::Entry* AccessibleNames::entryOf(const ui::Control* part) {

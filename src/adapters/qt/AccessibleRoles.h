@@ -9,8 +9,7 @@ namespace quillmere::qt {
 /// What a plain widget is to assistive programs. Said before the widget shows.
 void readAs(QWidget& widget, QAccessible::Role role);
 
-/// Teaches the running application the roles that plain widgets play, and what a button of the
-/// accordion is: a group that is expanded or collapsed, an item that is selected or not.
+/// Teaches the running application the roles that plain widgets play, and how buttons are read.
 void installAccessibleRoles();
 
 } // namespace quillmere::qt
