@@ -1,6 +1,7 @@
 #include "adapters/qt/Application.h"
 
 #include "adapters/qt/AccessibleRoles.h"
+#include "adapters/qt/Display.h"
 #include "adapters/qt/Style.h"
 
 #include "platform/Error.h"
@@ -48,6 +49,7 @@ OwnApplication* own = nullptr;
 
 void requireApplication(const std::string& name, const std::string& platform) {
     if (QCoreApplication::instance() == nullptr) {
+        requireDisplay(platform);
         own = new OwnApplication(name, platform);
         installAccessibleRoles();
         return;
@@ -71,6 +73,8 @@ void requireUserInterfaceThread() {
 }
 
 void endOwnApplication() {
+    if (own == nullptr) return;
+    requireUserInterfaceThread();
     delete own;
     own = nullptr;
 }
