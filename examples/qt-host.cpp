@@ -2,11 +2,10 @@
 //
 //     qt-host REGISTER
 
+#include <quillmere/Connection.h>
 #include <quillmere/IUserCtrl.h>
 #include <quillmere/Qt.h>
 #include <quillmere/Sqlite.h>
-
-#include "platform/data/Connection.h"
 
 #include <QApplication>
 #include <QListWidget>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <quillmere/Qt.h>
+#include "adapters/qt/Companion.h"
 
 #include <QString>
 

@@ -1,5 +1,6 @@
 #include "scenario/Runner.h"
 
+#include "scenario/Engine.h"
 #include "scenario/Player.h"
 #include "scenario/Toolkit.h"
 
@@ -19,8 +20,9 @@ namespace quillmere::scenario {
 
 namespace {
 
-constexpr std::string_view usage =
-    "quillmere-scenario [--toolkit model|qt] [--database sqlite|postgresql:URI] [--shots DIR] FILE...\n";
+constexpr std::string_view usage = "usage: quillmere-scenario [--toolkit model|qt] [--database "
+                                   "sqlite|postgresql:URI] [--shots DIR] FILE...\n"
+                                   "       quillmere-scenario --help\n";
 
 /// What a script begins with, whatever ran in the process before.
 struct CleanSlate {
@@ -67,12 +69,6 @@ Options parseArguments(const std::vector<std::string>& arguments) {
     return options;
 }
 
-void checkDatabase(const std::string& database) {
-    if (database == "sqlite") return;
-    if (database.starts_with("postgresql:")) throw Stop{"PostgreSQL is not built in"};
-    throw Stop{"there is no database " + database};
-}
-
 std::unique_ptr<Toolkit> requireToolkit(const std::string& name) {
     auto toolkit = makeToolkit(name);
     if (toolkit != nullptr) return toolkit;
@@ -100,19 +96,20 @@ Status playFile(const std::string& file, Toolkit& toolkit, const Options& option
         complaints << file << ": cannot be read\n";
         return Status::Stopped;
     }
-    return playScript(*text, file, toolkit, options.shots, out, complaints);
+    const auto engine = makeEngine(options.database);
+    return playScript(*text, file, {toolkit, *engine}, options.shots, out, complaints);
 }
 
 } // namespace
 
-Status playScript(std::string_view text, const std::string& name, Toolkit& toolkit, const std::string& shots,
-                  std::ostream& out, std::ostream& complaints) {
+Status playScript(std::string_view text, const std::string& name, const Stage& stage,
+                  const std::string& shots, std::ostream& out, std::ostream& complaints) {
     const CleanSlate slate;
     Transcript transcript(out);
-    Scene scene(transcript, toolkit);
+    Scene scene(transcript, stage.toolkit, stage.engine);
     scene.pictures = shots;
     Player player(Script(text), scene);
-    const EmployPlayer employed(toolkit, player);
+    const EmployPlayer employed(stage.toolkit, player);
     try {
         player.play();
     } catch (const Stop& stop) {
@@ -125,8 +122,12 @@ Status playScript(std::string_view text, const std::string& name, Toolkit& toolk
 
 Status runProgram(const std::vector<std::string>& arguments, std::ostream& out, std::ostream& complaints) {
     try {
+        if (std::ranges::find(arguments, "--help") != arguments.end()) {
+            out << usage;
+            return Status::Held;
+        }
         const Options options = parseArguments(arguments);
-        checkDatabase(options.database);
+        (void)makeEngine(options.database);
         const auto toolkit = requireToolkit(options.toolkit);
         if (!options.shots.empty()) makeDirectory(options.shots);
         Status worst = Status::Held;

@@ -1,5 +1,6 @@
 #include "QtPanels.h"
 
+#include "adapters/qt/Companion.h"
 #include "adapters/sqlite/SqliteConnection.h"
 #include "platform/data/Recordset.h"
 #include "platform/ui/DataGrid.h"

@@ -1,6 +1,6 @@
 #include "metadata/Globals.h"
 
-#include "platform/data/Connection.h"
+#include "platform/data/UnopenedConnection.h"
 
 #include <utility>
 

@@ -43,6 +43,12 @@ constexpr std::array descriptions{
 
 } // namespace
 
+struct Error::Details {
+    int number;
+    std::string source;
+    std::string description;
+};
+
 std::string_view descriptionOf(Failure failure) {
     const auto* found = std::find_if(descriptions.begin(), descriptions.end(),
                                      [failure](const auto& row) { return row.failure == failure; });
@@ -54,6 +60,19 @@ Error::Error(Failure failure, std::string source)
     : Error(failure, std::string(descriptionOf(failure)), std::move(source)) {}
 
 Error::Error(Failure failure, std::string description, std::string source)
-    : number_(static_cast<int>(failure)), source_(std::move(source)), description_(std::move(description)) {}
+    : details_(std::make_shared<const Details>(
+          Details{static_cast<int>(failure), std::move(source), std::move(description)})) {}
+
+Error::Error(const Error&) noexcept = default;
+Error& Error::operator=(const Error&) noexcept = default;
+Error::~Error() = default;
+
+int Error::number() const noexcept { return details_->number; }
+
+const std::string& Error::source() const noexcept { return details_->source; }
+
+const std::string& Error::description() const noexcept { return details_->description; }
+
+const char* Error::what() const noexcept { return details_->description.c_str(); }
 
 } // namespace quillmere

@@ -2,7 +2,7 @@
 
 #include "metadata/Globals.h"
 #include "platform/Error.h"
-#include "platform/data/Connection.h"
+#include "platform/data/UnopenedConnection.h"
 #include "platform/ui/Desktop.h"
 #include "shell/frmPersonWh.h"
 

@@ -1,6 +1,7 @@
 #include "Arrows.h"
 
 #include <algorithm>
+#include <array>
 #include <regex>
 #include <sstream>
 
@@ -17,6 +18,7 @@ struct Layer {
 
 const std::vector<Layer>& layers() {
     static const std::vector<Layer> rows{
+        {"vocabulary", {}, ""},
         {"quillmere", {}, ""},
         {"platform", {}, ""},
         {"metadata", {"platform"}, ""},
@@ -27,7 +29,9 @@ const std::vector<Layer>& layers() {
         {"shell", {"platform", "metadata", "binding", "photos", "panels", "save", "quillmere"}, ""},
         {"component",
          {"platform", "metadata", "binding", "photos", "panels", "save", "shell", "quillmere"},
-         ""},
+         "windows\\.h|oleauto\\.h|olectl\\.h|dlfcn\\.h|fcntl\\.h|unistd\\.h|sys/stat\\.h"},
+        {"quillmere.h", {}, "stdint\\.h"},
+        {"cinterface", {"platform", "quillmere", "quillmere.h"}, ""},
         {"adapters/sqlite", {"platform", "quillmere"}, "sqlite3\\.h"},
         {"adapters/postgresql", {"platform", "quillmere"}, "libpq-fe\\.h|postgresql/libpq-fe\\.h"},
         {"adapters/qt", {"platform", "quillmere"}, "Q[A-Z]\\w*|Qt\\w+/\\w+(\\.h)?"},
@@ -48,6 +52,11 @@ constexpr std::string_view standardHeaders =
     " unordered_map unordered_set utility valarray variant vector version"
     " ";
 
+/// Public headers with what hosts and the system talk to each other about; every layer may include them.
+constexpr std::array<std::string_view, 5> vocabulary{"quillmere/Connection.h", "quillmere/Error.h",
+                                                     "quillmere/RowSet.h", "quillmere/Value.h",
+                                                     "quillmere/Version.h"};
+
 const Layer* findLayer(std::string_view name) {
     const auto found = std::find_if(layers().begin(), layers().end(),
                                     [&](const Layer& layer) { return layer.name == name; });
@@ -66,7 +75,9 @@ bool isProductOf(const Layer& layer, const std::string& header) {
 std::string objection(const Layer& layer, const std::string& header, bool angled) {
     const std::string_view target = layerOf(header);
     if (!target.empty()) {
-        if (target == layer.name || std::ranges::find(layer.below, target) != layer.below.end()) return "";
+        if (target == layer.name || target == "vocabulary" ||
+            std::ranges::find(layer.below, target) != layer.below.end())
+            return "";
         return std::string(layer.name) + " may not include " + std::string(target);
     }
     if (!angled) return "\"" + header + "\" is not written relative to src/, or is of no known layer";
@@ -83,8 +94,10 @@ std::string_view withoutRoot(std::string_view path) {
 } // namespace
 
 std::string_view layerOf(std::string_view path) {
+    if (std::ranges::find(vocabulary, path) != vocabulary.end()) return "vocabulary";
     for (const Layer& layer : layers())
-        if (path.starts_with(layer.name) && path.substr(layer.name.size()).starts_with('/'))
+        if (path == layer.name ||
+            (path.starts_with(layer.name) && path.substr(layer.name.size()).starts_with('/')))
             return layer.name;
     return {};
 }

@@ -89,7 +89,11 @@ INSTANTIATE_TEST_SUITE_P(
                     Line{"src/adapters/qt/Guard.cpp", "#include \"adapters/sqlite/Statement.h\""},
                     Line{"src/adapters/qt/Guard.cpp", "#include \"panels/A1ctrlUser.h\""},
                     Line{"src/shell/frmPersonWh.cpp", "#include \"adapters/qt/QtDesktop.h\""},
-                    Line{"include/quillmere/Sqlite.h", "#include \"platform/Error.h\""}));
+                    Line{"src/shell/IUserCtrl.cpp", "#include \"quillmere.h\""},
+                    Line{"src/cinterface/Entries.cpp", "#include \"shell/frmPersonWh.h\""},
+                    Line{"include/quillmere/Sqlite.h", "#include \"platform/Error.h\""},
+                    Line{"include/quillmere/Error.h", "#include \"platform/text/Text.h\""},
+                    Line{"include/quillmere/RowSet.h", "#include <quillmere/Qt.h>"}));
 
 INSTANTIATE_TEST_SUITE_P(Products, RefusedLine,
                          testing::Values(Line{"src/platform/text/Text.cpp", "#include <QString>"},
@@ -117,8 +121,12 @@ INSTANTIATE_TEST_SUITE_P(
                     Line{"src/panels/A1ctrlUser.cpp", "#include \"binding/ControlItem.h\""},
                     Line{"src/shell/IUserCtrl.cpp", "#include \"quillmere/IUserCtrl.h\""},
                     Line{"src/shell/IUserCtrl.cpp", "#include <quillmere/IUserCtrl.h>"},
+                    Line{"src/platform/data/Value.h", "#include <quillmere/Value.h>"},
+                    Line{"include/quillmere/Sqlite.h", "#include <quillmere/Connection.h>"},
                     Line{"src/adapters/qt/Guard.cpp", "#include <QWidget>"},
                     Line{"src/adapters/qt/Guard.cpp", "#include <QtGui/QPainter>"},
+                    Line{"src/cinterface/Entries.cpp", "#include \"quillmere.h\""},
+                    Line{"include/quillmere.h", "#include <stdint.h>"},
                     Line{"src/adapters/sqlite/Statement.cpp", "#include <sqlite3.h>"},
                     Line{"src/adapters/sqlite/Statement.cpp", "#include \"platform/Error.h\""},
                     Line{"src/panels/A1ctrlUser.cpp", "// #include \"shell/frmPersonWh.h\""}));

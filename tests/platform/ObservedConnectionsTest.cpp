@@ -1,6 +1,7 @@
 #include "platform/data/ObservedConnections.h"
 #include "../support/FailureNumber.h"
 #include "FakeConnection.h"
+#include "platform/data/UnopenedConnection.h"
 
 #include <gtest/gtest.h>
 

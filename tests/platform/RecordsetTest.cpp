@@ -1,5 +1,7 @@
 #include "RecordsetBench.h"
 
+#include "platform/data/UnopenedConnection.h"
+
 #include "../support/FailureNumber.h"
 
 namespace quillmere::data {

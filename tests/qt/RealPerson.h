@@ -2,6 +2,7 @@
 
 #include "quillmere/Qt.h"
 
+#include "adapters/qt/Companion.h"
 #include "platform/ui/Desktop.h"
 
 #include <QPoint>

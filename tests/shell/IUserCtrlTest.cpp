@@ -1,7 +1,7 @@
 #include "quillmere/IUserCtrl.h"
 
 #include "metadata/Globals.h"
-#include "platform/data/Connection.h"
+#include "platform/data/UnopenedConnection.h"
 #include "shell/RegisterTest.h"
 #include "support/FailureNumber.h"
 

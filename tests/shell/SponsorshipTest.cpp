@@ -1,5 +1,6 @@
 #include "metadata/Globals.h"
 #include "platform/convert/Clock.h"
+#include "platform/data/UnopenedConnection.h"
 #include "shell/RegisterTest.h"
 #include "support/FailureNumber.h"
 

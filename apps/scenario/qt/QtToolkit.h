@@ -1,5 +1,6 @@
 #pragma once
 
+#include "adapters/qt/Companion.h"
 #include "scenario/Toolkit.h"
 #include "scenario/qt/QtHand.h"
 

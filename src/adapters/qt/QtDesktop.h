@@ -1,7 +1,6 @@
 #pragma once
 
-#include "quillmere/Qt.h"
-
+#include "adapters/qt/Companion.h"
 #include "platform/ui/Desktop.h"
 
 #include <vector>

@@ -18,10 +18,6 @@ bool inUse = false;
 
 } // namespace
 
-std::optional<ui::Answer> Companion::messageOpened(const ui::MessageBox& /*message*/) { return std::nullopt; }
-
-std::optional<std::string> Companion::fileAsked(const ui::FileDialog& /*dialog*/) { return std::nullopt; }
-
 struct Toolkit::Parts {
     explicit Parts(Companion* companion) : desktop(companion) {}
 
