@@ -1,8 +1,9 @@
-# quillmere_embed_files(TARGET DIRECTORY SOURCE)
+# quillmere_embed_files(TARGET DIRECTORY SOURCE HEADER NAMESPACE)
 #
 # Writes SOURCE, a C++ file that carries every file under DIRECTORY, found by its path relative to
-# DIRECTORY, and adds it to TARGET. The assembler reads the bytes, so that size costs no compile time.
-function(quillmere_embed_files target directory source)
+# DIRECTORY, and adds it to TARGET. HEADER declares embeddedFile and embeddedFileNames in NAMESPACE. The
+# assembler reads the bytes, so that size costs no compile time.
+function(quillmere_embed_files target directory source header namespace)
     file(GLOB_RECURSE files CONFIGURE_DEPENDS ${directory}/*)
     list(SORT files)
     set(assembly "")
@@ -12,7 +13,7 @@ function(quillmere_embed_files target directory source)
     set(index 0)
     foreach(file IN LISTS files)
         cmake_path(RELATIVE_PATH file BASE_DIRECTORY ${directory} OUTPUT_VARIABLE name)
-        set(symbol quillmere_sample_file_${index})
+        set(symbol ${target}_file_${index})
         string(APPEND assembly
             "    \".globl ${symbol}\\n.hidden ${symbol}\\n${symbol}:\\n.incbin \\\"${file}\\\"\\n\"\n"
             "    \".globl ${symbol}_end\\n.hidden ${symbol}_end\\n${symbol}_end:\\n.byte 0\\n\"\n")
@@ -25,6 +26,8 @@ function(quillmere_embed_files target directory source)
         message(FATAL_ERROR "no file to embed in ${directory}")
     endif()
 
+    set(QUILLMERE_EMBED_HEADER ${header})
+    set(QUILLMERE_EMBED_NAMESPACE ${namespace})
     set(QUILLMERE_EMBED_ASSEMBLY "${assembly}")
     set(QUILLMERE_EMBED_DECLARATIONS "${declarations}")
     set(QUILLMERE_EMBED_NAMES "${names}")

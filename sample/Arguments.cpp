@@ -41,6 +41,8 @@ Arguments parseArguments(const std::vector<std::string>& arguments) {
             result.options.people = false;
         } else if (option == "--output") {
             result.output = value();
+        } else if (option == "--database") {
+            result.database = value();
         } else if (option == "--photos") {
             result.photos = value();
         } else if (option == "--persons") {
@@ -53,24 +55,30 @@ Arguments parseArguments(const std::vector<std::string>& arguments) {
             throw UsageError("unknown option '" + option + "'");
         }
     }
-    if (result.output.empty() && !result.help) throw UsageError("--output is missing");
+    if (result.help) return result;
+    if (result.output.empty() && result.database.empty()) throw UsageError("--output is missing");
+    if (!result.output.empty() && !result.database.empty())
+        throw UsageError("--output and --database exclude each other");
     return result;
 }
 
 std::string_view helpText() {
     return "usage: quillmere-sample --output FILE [--persons N] [--units N] [--seed N] [--photos DIR]\n"
            "                        [--empty] [--force]\n"
+           "       quillmere-sample --database ADDRESS [the same]\n"
            "\n"
-           "Makes a sample register in an SQLite file: the catalogue, the code tables, and made-up\n"
-           "people, units and projects.\n"
+           "Makes a sample register in an SQLite file, or in a database on a PostgreSQL server: the\n"
+           "catalogue, the code tables, and made-up people, units and projects.\n"
            "\n"
            "  --output FILE   the file to make\n"
+           "  --database postgresql://ROLE@SERVER/DATABASE\n"
+           "                  instead: the database; its schema data is filled\n"
            "  --persons N     how many people, up to a million (200)\n"
            "  --units N       how many units, up to a million (20)\n"
            "  --seed N        another number makes other people (20260115)\n"
            "  --photos DIR    leaves portraits of one person in three there\n"
            "  --empty         the catalogue and the code tables alone\n"
-           "  --force         replaces a file that is there\n"
+           "  --force         replaces a file, or a schema data, that is there\n"
            "  --help          this text\n";
 }
 

@@ -11,7 +11,9 @@ namespace quillmere::sample {
 
 /// What the command line asks for.
 struct Arguments {
+    /// A file, or the address of a database on a PostgreSQL server; the other one is empty.
     std::string output;
+    std::string database;
     /// Where portraits of some people are left; empty for none.
     std::string photos;
     Options options;
@@ -26,7 +28,8 @@ public:
 };
 
 /// Reads the arguments behind the program's name. Raises UsageError for an unknown option, a
-/// missing or malformed value, an option given twice, and a missing output unless help is asked for.
+/// missing or malformed value, an option given twice, and, unless help is asked for, when there is not one of
+/// file and database.
 [[nodiscard]] Arguments parseArguments(const std::vector<std::string>& arguments);
 
 [[nodiscard]] std::string_view helpText();

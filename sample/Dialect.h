@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string_view>
 
 namespace quillmere::sample {
@@ -15,6 +16,10 @@ struct Dialect {
     std::string_view number;
     /// The default that makes a globally unique identifier of 38 characters, braces included.
     std::string_view guidDefault;
+    /// What keeps the identities apart that several clerks take at once; none on an engine without sessions.
+    std::span<const std::string_view> identityGuard;
+    /// Whether a key can be checked at the end of a statement instead of row by row.
+    bool deferrableKeys;
 };
 
 [[nodiscard]] const Dialect& dialectOf(Engine engine);

@@ -9,6 +9,8 @@
 
 namespace quillmere::sample {
 
+class CopyTarget;
+
 /// The text as an SQL literal, single quotes doubled.
 [[nodiscard]] std::string quoted(std::string_view text);
 /// The same, the empty text as `null`.
@@ -16,7 +18,8 @@ namespace quillmere::sample {
 /// The text as it stands, for numbers and booleans; the empty text as `null`.
 [[nodiscard]] std::string bareOrNull(std::string_view text);
 
-/// Inserts rows of literals into one table, many rows a statement.
+/// Inserts rows of literals into one table, many rows a statement; copies them where the connection is a
+/// CopyTarget.
 class InsertBatch {
 public:
     /// `columns` is the column list as the statement has it.
@@ -28,9 +31,15 @@ public:
 
 private:
     static constexpr std::size_t rowsPerStatement = 200;
+    static constexpr std::size_t bytesPerCopy = 1'000'000;
+
+    void addValues(const std::vector<std::string>& literals);
+    void addLine(const std::vector<std::string>& literals);
 
     data::Connection& connection_;
-    std::string head_;
+    CopyTarget* copy_;
+    std::string table_;
+    std::string columns_;
     std::string rows_;
     std::size_t count_ = 0;
 };

@@ -5,6 +5,7 @@
 #include "platform/data/ObservedConnections.h"
 
 #include <filesystem>
+#include <memory>
 #include <system_error>
 
 namespace quillmere::sample {
@@ -24,8 +25,7 @@ void removeQuietly(const fs::path& path) {
 
 } // namespace
 
-void buildFile(const std::string& path, const Options& options, bool replace,
-               const std::function<void(std::string_view statement)>& listen) {
+void fillFile(const std::string& path, bool replace, const std::function<void(data::Connection&)>& fill) {
     const fs::path target = pathOf(path);
     if (fs::exists(target) && !replace) {
         throw Error(Failure::PermissionDenied, "文件已存在：" + path, "quillmere-sample");
@@ -41,9 +41,7 @@ void buildFile(const std::string& path, const Options& options, bool replace,
         connection->execute("pragma synchronous=off");
         connection->execute("pragma locking_mode=exclusive");
         connection->execute(largeCache);
-        data::RecordingConnection observed(connection, listen);
-        observed.keepStatements(false);
-        build(observed, options);
+        fill(*connection);
         connection->close();
     } catch (...) {
         removeQuietly(pathOf(unfinished));
@@ -55,6 +53,17 @@ void buildFile(const std::string& path, const Options& options, bool replace,
     removeQuietly(pathOf(unfinished));
     throw Error(Failure::PathAccess, "不能写入文件：" + path + "（" + failure.message() + "）",
                 "quillmere-sample");
+}
+
+void buildFile(const std::string& path, const Options& options, bool replace,
+               const std::function<void(std::string_view statement)>& listen) {
+    fillFile(path, replace, [&](data::Connection& connection) {
+        // Not owned: the connection outlives what listens to it.
+        const std::shared_ptr<data::Connection> borrowed(std::shared_ptr<void>(), &connection);
+        data::RecordingConnection observed(borrowed, listen);
+        observed.keepStatements(false);
+        build(observed, options);
+    });
 }
 
 } // namespace quillmere::sample

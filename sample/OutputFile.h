@@ -8,6 +8,11 @@
 
 namespace quillmere::sample {
 
+/// Makes an SQLite file and lets `fill` work in it, on a connection without journal: nothing can be taken
+/// back. The file appears, or is replaced, only when that has returned. Raises PermissionDenied when the file
+/// is there and `replace` is false, PathAccess when it cannot be put in place, and what `fill` raises.
+void fillFile(const std::string& path, bool replace, const std::function<void(data::Connection&)>& fill);
+
 /// Makes the register in an SQLite file. The file appears, or is replaced, only when it is complete.
 /// Raises PermissionDenied when the file is there and `replace` is false, PathAccess when it cannot be
 /// put in place, and what building raises. `listen` hears each statement before it runs; what it throws ends

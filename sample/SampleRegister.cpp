@@ -133,7 +133,7 @@ void build(data::Connection& connection, const Options& options) {
     writeCodeTables(connection);
     if (options.people) writePeople(connection, options);
     // An index made over rows that are there takes a fraction of the time that it takes to grow with them.
-    createIndexes(connection, sets);
+    createIndexes(connection, sets, dialectOf(options.engine));
     transaction.commit();
 }
 

@@ -25,8 +25,6 @@ constexpr std::string_view furtherIndexes[] = {
     "create index IX_P01_P0123 on P01 (P0123, A00)",
 };
 
-bool hasUniqueKey(const std::string& set) { return set == "A01" || set == "B01" || set == "P01"; }
-
 std::string column(const SetRow& set, const FieldRow& field, const Dialect& dialect) {
     const std::string type = text::lower(field.type);
     const std::string& name = field.name;
@@ -60,6 +58,7 @@ std::vector<std::string> catalogueStatements(const Dialect& dialect) {
     for (const std::string& piece : text::split(script, ";\n")) {
         if (piece.find_first_not_of(" \r\n") != std::string::npos) statements.push_back(piece);
     }
+    statements.insert(statements.end(), dialect.identityGuard.begin(), dialect.identityGuard.end());
     return statements;
 }
 
@@ -78,15 +77,18 @@ std::string dataTableStatement(const SetRow& set, const Dialect& dialect) {
     return "create table " + set.name + " (" + columns + ")";
 }
 
-std::vector<std::string> indexStatements(const std::vector<SetRow>& sets) {
+std::vector<std::string> indexStatements(const std::vector<SetRow>& sets, const Dialect& dialect) {
     std::vector<std::string> statements;
     for (const SetRow& set : sets) {
         const std::string& name = set.name;
-        if (hasUniqueKey(name)) {
+        const std::string sequence = " (A00, " + name + "99)";
+        if (set.single) {
             statements.push_back("create unique index UX_" + name + "_A00 on " + name + " (A00)");
+        } else if (dialect.deferrableKeys) {
+            statements.push_back("alter table " + name + " add constraint UX_" + name + "_A00 unique" +
+                                 sequence + " deferrable initially immediate");
         } else {
-            const std::string sequence = set.single ? "" : ", " + name + "99";
-            statements.push_back("create index IX_" + name + "_A00 on " + name + " (A00" + sequence + ")");
+            statements.push_back("create index IX_" + name + "_A00 on " + name + sequence);
         }
     }
     statements.insert(statements.end(), std::begin(furtherIndexes), std::end(furtherIndexes));
@@ -102,14 +104,14 @@ void createTables(data::Connection& connection, const std::vector<SetRow>& sets,
         connection.execute(dataTableStatement(set, dialect));
 }
 
-void createIndexes(data::Connection& connection, const std::vector<SetRow>& sets) {
-    for (const std::string& statement : indexStatements(sets))
+void createIndexes(data::Connection& connection, const std::vector<SetRow>& sets, const Dialect& dialect) {
+    for (const std::string& statement : indexStatements(sets, dialect))
         connection.execute(statement);
 }
 
 void createSchema(data::Connection& connection, const std::vector<SetRow>& sets, const Dialect& dialect) {
     createTables(connection, sets, dialect);
-    createIndexes(connection, sets);
+    createIndexes(connection, sets, dialect);
 }
 
 } // namespace quillmere::sample

@@ -3,14 +3,32 @@
 #include "sample/Arguments.h"
 #include "sample/OutputFile.h"
 #include "sample/photos/PhotoFolder.h"
+#ifdef QUILLMERE_WITH_POSTGRESQL
+#include "sample/postgresql/OutputDatabase.h"
+#endif
 
 #include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <memory>
 
 namespace {
 
 constexpr int usageStatus = 2;
+
+/// Makes the register that is asked for, and connects to it.
+std::shared_ptr<quillmere::data::Connection> buildRegister(const quillmere::sample::Arguments& arguments) {
+    using namespace quillmere::sample;
+    if (!arguments.database.empty()) {
+#ifdef QUILLMERE_WITH_POSTGRESQL
+        return buildDatabase(arguments.database, arguments.options, arguments.force);
+#else
+        throw UsageError("PostgreSQL is not built in");
+#endif
+    }
+    buildFile(arguments.output, arguments.options, arguments.force);
+    return quillmere::sqlite::open({.path = arguments.output, .writeAheadLog = false});
+}
 
 int run(const std::vector<std::string>& words) {
     using namespace quillmere::sample;
@@ -19,11 +37,8 @@ int run(const std::vector<std::string>& words) {
         std::cout << helpText();
         return EXIT_SUCCESS;
     }
-    buildFile(arguments.output, arguments.options, arguments.force);
-    if (!arguments.photos.empty()) {
-        writePhotos(*quillmere::sqlite::open({.path = arguments.output, .writeAheadLog = false}),
-                    arguments.photos);
-    }
+    const auto made = buildRegister(arguments);
+    if (!arguments.photos.empty()) writePhotos(*made, arguments.photos);
     return EXIT_SUCCESS;
 }
 

@@ -1,17 +1,18 @@
 #include "scenario/Register.h"
 
+#include "scenario/Engine.h"
 #include "scenario/Stop.h"
 #include "scenario/Transcript.h"
 
-#include "adapters/sqlite/SqliteConnection.h"
 #include "sample/SampleRegister.h"
 
 namespace quillmere::scenario {
 
 void Register::make(bool people) {
-    auto engine = sqlite::openInMemory();
+    auto engine = source_.openFresh();
     sample::Options options;
     options.people = people;
+    options.engine = source_.dialect();
     sample::build(*engine, options);
     engine_ = std::move(engine);
     failing_ = std::make_shared<data::FailingConnection>(engine_);

@@ -6,13 +6,14 @@
 
 namespace quillmere::scenario {
 
+class Engine;
 class Transcript;
 
 /// The database of a scenario. What the system says to it is traced and can be made to fail; what the
 /// script says through `direct` is neither.
 class Register {
 public:
-    explicit Register(Transcript& out) : out_(out) {}
+    Register(Transcript& out, Engine& engine) : out_(out), source_(engine) {}
 
     /// A fresh sample register, with or without people, units and projects.
     void make(bool people);
@@ -29,6 +30,7 @@ private:
     void require() const;
 
     Transcript& out_;
+    Engine& source_;
     bool tracing_ = false;
     std::shared_ptr<data::Connection> engine_;
     std::shared_ptr<data::FailingConnection> failing_;

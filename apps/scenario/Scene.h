@@ -27,7 +27,8 @@ namespace quillmere::scenario {
 
 /// What the commands of one script work on.
 struct Scene {
-    Scene(Transcript& transcript, Toolkit& screen) : out(transcript), toolkit(screen), database(transcript) {}
+    Scene(Transcript& transcript, Toolkit& screen, Engine& engine)
+        : out(transcript), toolkit(screen), database(transcript, engine) {}
 
     Transcript& out;
     Toolkit& toolkit;

@@ -36,6 +36,14 @@ TEST(Arguments, EveryOptionIsTaken) {
     EXPECT_TRUE(arguments.force);
 }
 
+TEST(Arguments, ADatabaseStandsInPlaceOfAFile) {
+    const Arguments arguments = parseArguments({"--database", "postgresql://server/register"});
+    EXPECT_EQ(arguments.database, "postgresql://server/register");
+    EXPECT_EQ(arguments.output, "");
+    EXPECT_EQ(complaintOf({"--database", "x", "--output", "a.db"}),
+              "--output and --database exclude each other");
+}
+
 TEST(Arguments, HelpNeedsNoOutput) { EXPECT_TRUE(parseArguments({"--help"}).help); }
 
 TEST(Arguments, WhatIsWrongIsNamed) {
@@ -51,8 +59,8 @@ TEST(Arguments, WhatIsWrongIsNamed) {
 }
 
 TEST(Arguments, HelpNamesEveryOption) {
-    for (const char* option :
-         {"--output", "--persons", "--units", "--seed", "--photos", "--empty", "--force", "--help"}) {
+    for (const char* option : {"--output", "--database", "--persons", "--units", "--seed", "--photos",
+                               "--empty", "--force", "--help"}) {
         EXPECT_NE(helpText().find(option), std::string_view::npos) << option;
     }
 }

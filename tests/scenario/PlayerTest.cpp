@@ -1,8 +1,10 @@
 #include "scenario/Player.h"
+#include "scenario/Engine.h"
 #include "scenario/ModelToolkit.h"
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <sstream>
 
 // What a player does with what a toolkit puts in front, apart from any window of the system.
@@ -32,7 +34,8 @@ protected:
     ModelToolkit toolkit;
     std::ostringstream out;
     Transcript transcript{out};
-    Scene scene{transcript, toolkit};
+    std::unique_ptr<Engine> engine = makeEngine("sqlite");
+    Scene scene{transcript, toolkit, *engine};
 };
 
 TEST_F(PlayerTest, ABoxIsShownWithAllThatItHas) {

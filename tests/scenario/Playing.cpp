@@ -1,5 +1,6 @@
 #include "scenario/Playing.h"
 
+#include "scenario/Engine.h"
 #include "scenario/ModelToolkit.h"
 
 #include <sstream>
@@ -8,10 +9,11 @@ namespace quillmere::test {
 
 Played play(std::string_view script) {
     scenario::ModelToolkit toolkit;
+    const auto engine = scenario::makeEngine("sqlite");
     std::ostringstream out;
     std::ostringstream complaints;
     Played played;
-    played.status = scenario::playScript(script, "script", toolkit, "", out, complaints);
+    played.status = scenario::playScript(script, "script", {toolkit, *engine}, "", out, complaints);
     played.transcript = out.str();
     played.complaints = complaints.str();
     std::istringstream lines(played.transcript);
