@@ -52,7 +52,7 @@ TEST(GuideTest, TheListingsAreTheFilesThatTheyName) {
             ++count;
         }
     }
-    EXPECT_EQ(count, 2U);
+    EXPECT_EQ(count, 5U);
 }
 
 std::string withoutListings(std::string document) {
