@@ -87,6 +87,11 @@ public:
         requireFile(source);
         if (!mayBeReplaced(target, source)) throw Error(Failure::PermissionDenied);
         std::error_code error;
+#ifdef _WIN32
+        // The GNU library takes any two files of this platform for the same one, and would not replace it.
+        fs::remove(target, error);
+        raiseOn(error);
+#endif
         fs::copy_file(source, target, fs::copy_options::overwrite_existing, error);
         raiseOn(error);
     }
