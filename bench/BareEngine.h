@@ -1,28 +1,20 @@
 #pragma once
 
-#include <memory>
 #include <span>
 #include <string>
 
-struct sqlite3;
-
 namespace quillmere::bench {
 
-/// SQLite itself on a database file: what the statements cost without the system around them.
+/// An engine's own client library: what the statements cost without the system around them.
 class BareEngine {
 public:
-    /// Raises std::runtime_error for a file that cannot be opened.
-    explicit BareEngine(const std::string& path);
+    BareEngine() = default;
+    BareEngine(const BareEngine&) = delete;
+    BareEngine& operator=(const BareEngine&) = delete;
+    virtual ~BareEngine() = default;
 
-    /// Prepares each statement, steps it to its end and finalizes it. Raises std::runtime_error.
-    void run(std::span<const std::string> statements);
-
-private:
-    struct Close {
-        void operator()(sqlite3* database) const;
-    };
-
-    std::unique_ptr<sqlite3, Close> database_;
+    /// Runs each statement to its end and drops what it yields. Raises std::runtime_error.
+    virtual void run(std::span<const std::string> statements) = 0;
 };
 
 } // namespace quillmere::bench

@@ -1,4 +1,4 @@
-#include "BareEngine.h"
+#include "BareSqlite.h"
 
 #include <sqlite3.h>
 
@@ -22,9 +22,9 @@ void lengthOf(sqlite3_context* context, int /*count*/, sqlite3_value** arguments
 
 } // namespace
 
-void BareEngine::Close::operator()(sqlite3* database) const { sqlite3_close_v2(database); }
+void BareSqlite::Close::operator()(sqlite3* database) const { sqlite3_close_v2(database); }
 
-BareEngine::BareEngine(const std::string& path) {
+BareSqlite::BareSqlite(const std::string& path) {
     sqlite3* raw = nullptr;
     const int code =
         sqlite3_open_v2(path.c_str(), &raw, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);
@@ -36,7 +36,7 @@ BareEngine::BareEngine(const std::string& path) {
     }
 }
 
-void BareEngine::run(std::span<const std::string> statements) {
+void BareSqlite::run(std::span<const std::string> statements) {
     for (const std::string& sql : statements) {
         sqlite3_stmt* statement = nullptr;
         if (sqlite3_prepare_v2(database_.get(), sql.data(), static_cast<int>(sql.size()), &statement,
