@@ -5,7 +5,6 @@
 #include "platform/data/ObservedConnections.h"
 
 #include <filesystem>
-#include <memory>
 #include <system_error>
 
 namespace quillmere::sample {
@@ -25,7 +24,7 @@ void removeQuietly(const fs::path& path) {
 
 } // namespace
 
-void fillFile(const std::string& path, bool replace, const std::function<void(data::Connection&)>& fill) {
+void fillFile(const std::string& path, bool replace, const FillConnection& fill) {
     const fs::path target = pathOf(path);
     if (fs::exists(target) && !replace) {
         throw Error(Failure::PermissionDenied, "文件已存在：" + path, "quillmere-sample");
@@ -41,7 +40,7 @@ void fillFile(const std::string& path, bool replace, const std::function<void(da
         connection->execute("pragma synchronous=off");
         connection->execute("pragma locking_mode=exclusive");
         connection->execute(largeCache);
-        fill(*connection);
+        fill(connection);
         connection->close();
     } catch (...) {
         removeQuietly(pathOf(unfinished));
@@ -57,10 +56,8 @@ void fillFile(const std::string& path, bool replace, const std::function<void(da
 
 void buildFile(const std::string& path, const Options& options, bool replace,
                const std::function<void(std::string_view statement)>& listen) {
-    fillFile(path, replace, [&](data::Connection& connection) {
-        // Not owned: the connection outlives what listens to it.
-        const std::shared_ptr<data::Connection> borrowed(std::shared_ptr<void>(), &connection);
-        data::RecordingConnection observed(borrowed, listen);
+    fillFile(path, replace, [&](const auto& connection) {
+        data::RecordingConnection observed(connection, listen);
         observed.keepStatements(false);
         build(observed, options);
     });
