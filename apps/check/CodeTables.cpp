@@ -18,6 +18,7 @@ std::vector<CodeTableInUse> codeTablesInUse(const RegisterView& view) {
         tables.try_emplace(text::lower(table), CodeTableInUse{table, field.table + "." + field.name});
     }
     std::vector<CodeTableInUse> inUse;
+    inUse.reserve(tables.size());
     for (auto& [key, table] : tables)
         inUse.push_back(std::move(table));
     return inUse;

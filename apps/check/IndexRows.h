@@ -14,6 +14,7 @@ namespace quillmere::check {
     for (std::size_t row = 0; row < rows.rowCount(); ++row)
         byName[rows.at(row, 0).toText()].push_back(rows.at(row, 1).toTextOrEmpty());
     std::vector<EngineIndexes::Index> indexes;
+    indexes.reserve(byName.size());
     for (auto& [name, columns] : byName)
         indexes.push_back(std::move(columns));
     return indexes;

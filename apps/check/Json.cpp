@@ -31,6 +31,7 @@ std::string text(std::string_view content) {
 
 std::string object(const std::vector<Member>& members) {
     std::vector<std::string> parts;
+    parts.reserve(members.size());
     for (const Member& member : members)
         parts.push_back(text(member.name) + ": " + member.value);
     return "{" + quillmere::text::join(parts, ", ") + "}";

@@ -4,6 +4,7 @@
 
 #include <QAccessibleWidget>
 #include <QVariant>
+#include <QWidget>
 
 namespace quillmere::qt {
 

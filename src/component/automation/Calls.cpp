@@ -5,6 +5,7 @@
 #include "component/automation/Utf16.h"
 #include "platform/Error.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <cstdio>
@@ -52,9 +53,9 @@ Variant invokeByName(IDispatch& object, std::string_view name, WORD flags, std::
     DISPID id = DISPID_UNKNOWN;
     if (const HRESULT code = findMember(object, name, id); FAILED(code)) raise(code, name, exception);
     // The last argument comes first.
-    std::vector<VARIANT> reversed;
-    for (auto at = arguments.rbegin(); at != arguments.rend(); ++at)
-        reversed.push_back(at->get());
+    std::vector<VARIANT> reversed(arguments.size());
+    std::transform(arguments.rbegin(), arguments.rend(), reversed.begin(),
+                   [](const Variant& argument) { return argument.get(); });
     DISPPARAMS parameters{};
     parameters.rgvarg = reversed.data();
     parameters.cArgs = static_cast<UINT>(reversed.size());

@@ -25,7 +25,8 @@ std::string toUtf8(WideView text) {
         if (isHighSurrogate(unit) && at + 1 < text.size()) {
             const auto low = static_cast<char32_t>(static_cast<std::uint16_t>(text[at + 1]));
             if (isLowSurrogate(low)) {
-                characters += firstSupplement + ((unit - 0xD800) << 10U) + (low - 0xDC00);
+                characters +=
+                    static_cast<char32_t>(firstSupplement + ((unit - 0xD800) << 10U) + (low - 0xDC00));
                 ++at;
                 continue;
             }

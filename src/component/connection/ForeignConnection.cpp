@@ -30,11 +30,13 @@ data::RowSet fetch(IDispatch& recordset) {
     // The fields of a recordset follow its row, so that they are asked for once.
     const auto fields = fieldsOf(recordset);
     std::vector<std::string> names;
+    names.reserve(fields.size());
     for (const auto& field : fields)
         names.push_back(toText(call(*field.get(), "Name").get()));
     data::RowSet rows(std::move(names));
     while (!toBoolean(call(recordset, "EOF").get())) {
         std::vector<data::Value> row;
+        row.reserve(fields.size());
         for (const auto& field : fields)
             row.push_back(toCell(call(*field.get(), "Value").get()));
         rows.addRow(std::move(row));

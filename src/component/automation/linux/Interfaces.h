@@ -17,6 +17,12 @@ union CY {
 /// Days since 30 December 1899.
 using DATE = double;
 
+/// A record and what describes it.
+struct BRECORD {
+    void* pvRecord;
+    void* pRecInfo;
+};
+
 struct VARIANT {
     VARTYPE vt;
     WORD wReserved1;
@@ -50,10 +56,7 @@ struct VARIANT {
         std::uint64_t ullVal;
         INT intVal;
         UINT uintVal;
-        struct {
-            void* pvRecord;
-            void* pRecInfo;
-        } brecVal;
+        BRECORD brecVal;
     };
 };
 using VARIANTARG = VARIANT;
