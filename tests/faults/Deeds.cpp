@@ -4,6 +4,7 @@
 #include "platform/ui/MaskEdBox.h"
 #include "platform/ui/TextBox.h"
 #include "support/ScriptedPerson.h"
+#include "support/WindowWork.h"
 
 #include <gtest/gtest.h>
 
@@ -26,32 +27,12 @@ constexpr Reaction budgetBinding{"错误", "在经费使用安排的数据绑定
 /// Where a reload begins.
 constexpr const char* reloading = "select count(A00) from a01";
 
-void clickItem(frmPersonWh& window, std::string_view caption) {
-    const auto& groups = window.menu().groups();
-    for (std::size_t group = 0; group < groups.size(); ++group) {
-        for (std::size_t item = 0; item < groups[group].items.size(); ++item) {
-            if (groups[group].items[item].caption != caption) continue;
-            ASSERT_TRUE(window.menu().clickItem(static_cast<int>(group) + 1, static_cast<int>(item) + 1));
-            return;
-        }
-    }
-    FAIL() << "no item " << caption;
-}
-
 auto item(const char* caption) {
-    return [caption](frmPersonWh& window) { clickItem(window, caption); };
-}
-
-void type(ui::Form& form, std::string_view widget, std::string_view text) {
-    ui::Control* control = form.findDeep(widget);
-    ASSERT_NE(control, nullptr) << widget;
-    ASSERT_TRUE(form.moveFocus(*control)) << widget;
-    form.selectAll();
-    typeText(form, text);
+    return [caption](frmPersonWh& window) { ASSERT_TRUE(clickItem(window, caption)) << caption; };
 }
 
 auto typed(const char* widget, const char* text) {
-    return [=](frmPersonWh& window) { type(window, widget, text); };
+    return [=](frmPersonWh& window) { ASSERT_TRUE(enterText(window, widget, text)) << widget; };
 }
 
 auto both(std::function<void(frmPersonWh&)> first, std::function<void(frmPersonWh&)> second) {
@@ -62,9 +43,7 @@ auto both(std::function<void(frmPersonWh&)> first, std::function<void(frmPersonW
 }
 
 auto pressed(const char* key) {
-    return [key](frmPersonWh& window) {
-        ASSERT_TRUE(window.toolbar().clickButton(window.toolbarButton(key))) << key;
-    };
+    return [key](frmPersonWh& window) { ASSERT_TRUE(pressButton(window, key)) << key; };
 }
 
 auto clicked(const char* button) {
@@ -88,27 +67,27 @@ constexpr const char* collective = "update ZZStyle set ZZType='6'";
 // ---- row editors
 
 void fillStage(ui::Form& editor) {
-    type(editor, "txtP0201", "202701");
-    type(editor, "txtP0202", "202706");
-    type(editor, "txtP0203", "试验");
-    type(editor, "txtP0204", "报告");
+    ASSERT_TRUE(enterText(editor, "txtP0201", "202701"));
+    ASSERT_TRUE(enterText(editor, "txtP0202", "202706"));
+    ASSERT_TRUE(enterText(editor, "txtP0203", "试验"));
+    ASSERT_TRUE(enterText(editor, "txtP0204", "报告"));
 }
 
 void fillBySubject(ui::Form& editor) {
-    type(editor, "txtP0301_t", "差旅");
-    type(editor, "txtP0302_t", "3.5");
+    ASSERT_TRUE(enterText(editor, "txtP0301_t", "差旅"));
+    ASSERT_TRUE(enterText(editor, "txtP0302_t", "3.5"));
 }
 
 void fillByPurpose(ui::Form& editor) {
-    type(editor, "txtP0301_q", "差旅");
-    type(editor, "txtP0302_q", "3.5");
-    type(editor, "txtP0303_q", "资助");
+    ASSERT_TRUE(enterText(editor, "txtP0301_q", "差旅"));
+    ASSERT_TRUE(enterText(editor, "txtP0302_q", "3.5"));
+    ASSERT_TRUE(enterText(editor, "txtP0303_q", "资助"));
 }
 
 void fillPlan(ui::Form& editor) {
-    type(editor, "txtC0401", "设备");
-    type(editor, "txtC0402", "7");
-    type(editor, "txtC0406", "2027");
+    ASSERT_TRUE(enterText(editor, "txtC0401", "设备"));
+    ASSERT_TRUE(enterText(editor, "txtC0402", "7"));
+    ASSERT_TRUE(enterText(editor, "txtC0406", "2027"));
 }
 
 std::vector<Deed> savingDeeds() {

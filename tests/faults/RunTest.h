@@ -3,10 +3,10 @@
 #include "faults/SmallRegister.h"
 #include "platform/convert/Clock.h"
 #include "platform/ui/TextBox.h"
-#include "platform/ui/VerticalMenu.h"
 #include "quillmere/IUserCtrl.h"
 #include "shell/frmPersonWh.h"
 #include "support/ScriptedPerson.h"
+#include "support/WindowWork.h"
 
 #include <gtest/gtest.h>
 
@@ -40,28 +40,16 @@ protected:
     }
 
     static void open(frmPersonWh& window, std::string_view caption) {
-        const auto& groups = window.menu().groups();
-        for (std::size_t group = 0; group < groups.size(); ++group) {
-            for (std::size_t item = 0; item < groups[group].items.size(); ++item) {
-                if (groups[group].items[item].caption != caption) continue;
-                ASSERT_TRUE(window.menu().clickItem(static_cast<int>(group) + 1, static_cast<int>(item) + 1));
-                return;
-            }
-        }
-        FAIL() << "no item " << caption;
+        ASSERT_TRUE(clickItem(window, caption)) << caption;
     }
 
     /// The person's text takes the place of what stands in the widget.
     static void type(ui::Form& form, std::string_view widget, std::string_view text) {
-        ui::Control* control = form.findDeep(widget);
-        ASSERT_NE(control, nullptr) << widget;
-        ASSERT_TRUE(form.moveFocus(*control)) << widget;
-        form.selectAll();
-        typeText(form, text);
+        ASSERT_TRUE(enterText(form, widget, text)) << widget;
     }
 
     static void press(frmPersonWh& window, std::string_view key) {
-        ASSERT_TRUE(window.toolbar().clickButton(window.toolbarButton(key))) << key;
+        ASSERT_TRUE(pressButton(window, key)) << key;
     }
 
     [[nodiscard]] static std::string text(const frmPersonWh& window, std::string_view widget) {
