@@ -8,7 +8,7 @@ import story
 
 def play(screen, arguments, log):
     assistance.Assistance(screen)
-    tests = subprocess.run([arguments.programs / "test-qt", "--gtest_filter=AccessibleTest.*"],
+    tests = subprocess.run([arguments.programs / "test-qt", "--gtest_filter=Accessible*"],
                            env=screen.environment | {"QT_QPA_PLATFORM": "xcb"}, stdin=subprocess.DEVNULL,
                            stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, timeout=200, check=False)
     print(tests.stdout)
