@@ -65,16 +65,6 @@ std::u32string_view fitting(std::u32string_view entry, std::size_t kept, std::si
 
 } // namespace
 
-void TextBox::setText(std::string text) {
-    const std::size_t length = text::length(text);
-    const bool differs = text_ != text;
-    text_ = std::move(text);
-    select({std::min(selection_.start, length), 0, false});
-    if (!differs) return;
-    notify(Property::Text);
-    Change.raise();
-}
-
 void TextBox::setLocked(bool locked) {
     if (locked_ == locked) return;
     locked_ = locked;
@@ -99,37 +89,21 @@ void TextBox::setBackColor(Colour colour) {
     notify(Property::BackColor);
 }
 
-void TextBox::setSelection(std::size_t start, std::size_t length) {
-    const Selection wanted = Selection{start, length, false}.within(text::length(text_));
-    // The same characters may be on show with the caret before them: that stays.
-    if (wanted.start != selection_.start || wanted.length != selection_.length) select(wanted);
-}
-
-void TextBox::select(const Selection& selection) {
-    if (selection == selection_) return;
-    selection_ = selection;
-    notify(Property::Selection);
-}
-
 void TextBox::personEdited(std::string text, std::size_t selStart) {
     const std::size_t length = text::length(text);
-    const bool grows = length > text::length(text_);
+    const bool grows = length > text::length(Text());
     if (locked_ || (maxLength_ != 0 && length > maxLength_ && grows)) {
         notify(Property::Text);
         return;
     }
-    selection_ = {std::min(selStart, length), 0, false};
-    if (text_ == text) return;
-    text_ = std::move(text);
-    notify(Property::Text);
-    Change.raise();
+    follow(std::move(text), {std::min(selStart, length), 0, false});
 }
 
 std::u32string TextBox::cutToRoom(std::u32string_view entry) const {
     std::u32string whole =
         multiLine_ ? withWholeBreaks(entry) : std::u32string(entry.substr(0, entry.find_first_of(lineBreak)));
     if (maxLength_ == 0) return whole;
-    return std::u32string(fitting(whole, text::length(text_) - selection_.length, maxLength_));
+    return std::u32string(fitting(whole, text::length(Text()) - SelLength(), maxLength_));
 }
 
 std::string TextBox::roomFor(std::string_view entry) const {
@@ -144,17 +118,11 @@ void TextBox::enter(std::u32string_view entry) {
 
 void TextBox::replaceSelection(std::u32string_view with) {
     if (locked_) return;
-    std::u32string all = text::decode(text_);
-    const Selection replaced = selection_.within(all.size());
+    std::u32string all = text::decode(Text());
+    const Selection replaced = selection().within(all.size());
     if (with.empty() && replaced.length == 0) return;
     all.replace(replaced.start, replaced.length, with);
-    std::string changed = text::encode(all);
-    selection_ = {replaced.start + with.size(), 0, false};
-    const bool differs = changed != text_;
-    text_ = std::move(changed);
-    notify(Property::Text);
-    notify(Property::Selection);
-    if (differs) Change.raise();
+    show(text::encode(all), {replaced.start + with.size(), 0, false});
 }
 
 void TextBox::erase(std::size_t start, std::size_t count) {
@@ -165,11 +133,11 @@ void TextBox::erase(std::size_t start, std::size_t count) {
 void TextBox::personCharacter(char32_t character) {
     if (character == key::Backspace) {
         if (locked_) return;
-        if (selection_.length != 0) {
+        if (SelLength() != 0) {
             replaceSelection(U"");
-        } else if (selection_.start > 0) {
-            const std::size_t count = stepBack(text::decode(text_), selection_.start);
-            erase(selection_.start - count, count);
+        } else if (SelStart() > 0) {
+            const std::size_t count = stepBack(text::decode(Text()), SelStart());
+            erase(SelStart() - count, count);
         }
     } else if (character == key::Enter) {
         if (multiLine_) enter(lineBreak);
@@ -179,10 +147,10 @@ void TextBox::personCharacter(char32_t character) {
 }
 
 void TextBox::personDoubleClick() {
-    const std::u32string all = text::decode(text_);
+    const std::u32string all = text::decode(Text());
     if (locked_ || all.empty()) return;
     // Behind the last character a click means that character.
-    const std::size_t at = std::min(selection_.start, all.size() - 1);
+    const std::size_t at = std::min(SelStart(), all.size() - 1);
     const Sort sort = sortOf(all[at]);
     std::size_t first = at;
     while (first > 0 && sortOf(all[first - 1]) == sort)
@@ -195,16 +163,14 @@ void TextBox::personDoubleClick() {
 
 void TextBox::personPaste(std::string_view text) { enter(text::decode(text)); }
 
-void TextBox::selectAll() { setSelection(0, text::length(text_)); }
-
 void TextBox::personKeyDown(const KeyStroke& stroke) {
-    const std::u32string all = text::decode(text_);
-    const std::size_t caret = selection_.caret();
+    const std::u32string all = text::decode(Text());
+    const std::size_t caret = selection().caret();
     const std::size_t on = stepOn(all, caret);
-    if (const auto moved = selection_.afterKey(stroke, stepBack(all, caret), on, all.size())) {
+    if (const auto moved = selection().afterKey(stroke, stepBack(all, caret), on, all.size())) {
         select(*moved);
     } else if (stroke.code == key::Delete) {
-        if (selection_.length != 0)
+        if (SelLength() != 0)
             replaceSelection(U"");
         else if (caret < all.size() && !locked_)
             erase(caret, on);
@@ -213,14 +179,11 @@ void TextBox::personKeyDown(const KeyStroke& stroke) {
 
 std::optional<std::string> TextBox::property(std::string_view name) const {
     const auto is = [&](std::string_view wanted) { return text::equalsNoCase(name, wanted); };
-    if (is("Text")) return text_;
     if (is("Locked")) return locked_ ? "true" : "false";
     if (is("MaxLength")) return std::to_string(maxLength_);
     if (is("MultiLine")) return multiLine_ ? "true" : "false";
     if (is("BackColor")) return std::to_string(backColor_);
-    if (is("SelStart")) return std::to_string(selection_.start);
-    if (is("SelLength")) return std::to_string(selection_.length);
-    return Control::property(name);
+    return EditBox::property(name);
 }
 
 } // namespace quillmere::ui

@@ -2,21 +2,15 @@
 
 #include "platform/ui/Alignment.h"
 #include "platform/ui/Colour.h"
-#include "platform/ui/Control.h"
-#include "platform/ui/Selection.h"
-
-#include <cstddef>
+#include "platform/ui/EditBox.h"
 
 namespace quillmere::ui {
 
-/// A box for text, on one line or many. Positions and lengths are in characters.
-class TextBox : public Control {
+/// A box for text, on one line or many.
+class TextBox : public EditBox {
 public:
-    explicit TextBox(std::string name) : Control(Kind::TextBox, std::move(name)) {}
+    explicit TextBox(std::string name) : EditBox(Kind::TextBox, std::move(name), {}) {}
 
-    [[nodiscard]] const std::string& Text() const { return text_; }
-    /// Raises Change when the text differs. MaxLength does not bind a program.
-    void setText(std::string text);
     [[nodiscard]] bool Locked() const { return locked_; }
     void setLocked(bool locked);
     /// Most characters that a person may enter, 0 for no limit.
@@ -28,10 +22,6 @@ public:
     void setAlignment(ui::Alignment alignment);
     [[nodiscard]] Colour BackColor() const { return backColor_; }
     void setBackColor(Colour colour);
-    [[nodiscard]] std::size_t SelStart() const { return selection_.start; }
-    [[nodiscard]] std::size_t SelLength() const { return selection_.length; }
-    /// Cut to the text.
-    void setSelection(std::size_t start, std::size_t length);
 
     /// What of an entry could take the place of the selection now: its first line where the box has one
     /// line, its line breaks as "\r\n" where it has many, cut to MaxLength.
@@ -43,27 +33,20 @@ public:
 
     [[nodiscard]] std::optional<std::string> property(std::string_view name) const override;
 
-    Event<> Change;
-
 protected:
-    [[nodiscard]] bool isFocusKind() const override { return true; }
     void personKeyDown(const KeyStroke& stroke) override;
     void personCharacter(char32_t character) override;
     void personPaste(std::string_view text) override;
     /// Selects the word at the caret: what stands together without a blank or a mark between.
     void personDoubleClick() override;
-    void selectAll() override;
 
 private:
     [[nodiscard]] std::u32string cutToRoom(std::u32string_view entry) const;
     void enter(std::u32string_view entry);
     void replaceSelection(std::u32string_view with);
     void erase(std::size_t start, std::size_t count);
-    void select(const Selection& selection);
 
-    std::string text_;
     std::size_t maxLength_ = 0;
-    Selection selection_;
     Colour backColor_ = colour::window;
     ui::Alignment alignment_ = ui::Alignment::Left;
     bool locked_ = false;
