@@ -86,6 +86,15 @@ bool ControlPeer::mousePressed(QMouseEvent& /*event*/, QWidget& /*target*/) { re
 
 bool ControlPeer::refusesFocus() { return !form().moveFocus(*control_); }
 
+bool ControlPeer::tellClick(const QMouseEvent& event) {
+    if (isDoubleClick(event)) return form().doubleClick(*control_);
+    return form().click(*control_, static_cast<int>(event.button()));
+}
+
+bool ControlPeer::isDoubleClick(const QMouseEvent& event) {
+    return event.type() == QEvent::MouseButtonDblClick && event.button() == Qt::LeftButton;
+}
+
 void ControlPeer::tellMouseMove(const QMouseEvent& event) {
     constexpr int leftRightMiddle = 7;
     form().moveMouse(*control_, static_cast<int>(event.buttons().toInt()) & leftRightMiddle);

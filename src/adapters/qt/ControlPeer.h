@@ -60,6 +60,9 @@ protected:
 
     /// Asks for the focus; true (eat the press) when it was refused.
     bool refusesFocus();
+    /// Clicks the control, or double clicks it; whether the control was reached.
+    bool tellClick(const QMouseEvent& event);
+    [[nodiscard]] static bool isDoubleClick(const QMouseEvent& event);
     /// Raises the control's mouse move.
     void tellMouseMove(const QMouseEvent& event);
 

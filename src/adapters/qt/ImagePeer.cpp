@@ -69,11 +69,7 @@ void ImagePeer::mirror(ui::Property property) {
 }
 
 bool ImagePeer::mousePressed(QMouseEvent& event, QWidget& /*target*/) {
-    const bool twice = event.type() == QEvent::MouseButtonDblClick && event.button() == Qt::LeftButton;
-    if (twice)
-        form().doubleClick(*control());
-    else
-        form().click(*control(), static_cast<int>(event.button()));
+    tellClick(event);
     return true;
 }
 

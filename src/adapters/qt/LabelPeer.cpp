@@ -61,11 +61,7 @@ void LabelPeer::mirror(ui::Property property) {
 }
 
 bool LabelPeer::mousePressed(QMouseEvent& event, QWidget& /*target*/) {
-    const bool twice = event.type() == QEvent::MouseButtonDblClick && event.button() == Qt::LeftButton;
-    if (twice)
-        form().doubleClick(*control());
-    else
-        form().click(*control(), static_cast<int>(event.button()));
+    tellClick(event);
     return true;
 }
 

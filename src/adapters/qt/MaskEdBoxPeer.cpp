@@ -119,13 +119,11 @@ bool MaskEdBoxPeer::keyPressed(QKeyEvent& event) {
 }
 
 bool MaskEdBoxPeer::mousePressed(QMouseEvent& event, QWidget& /*target*/) {
-    const bool left = event.button() == Qt::LeftButton;
-    if (left && event.type() == QEvent::MouseButtonDblClick) return !form().doubleClick(*control());
-    const bool hadFocus = control()->hasFocus();
-    const bool reached = form().click(*control(), static_cast<int>(event.button()));
+    const bool bringsFocus = !control()->hasFocus() && event.button() == Qt::LeftButton;
+    const bool reached = tellClick(event);
     // The click that brings the focus does not take the caret along: the mask is filled from where the
     // focus has put it.
-    return !reached || (left && !hadFocus);
+    return !reached || (bringsFocus && !isDoubleClick(event));
 }
 
 void MaskEdBoxPeer::mirror(ui::Property property) {

@@ -175,12 +175,10 @@ bool TextEntry::keyPressed(QKeyEvent& event) {
 bool TextEntry::mousePressed(QMouseEvent& event, QWidget& target) {
     // Scroll bars work without the focus; the list button comes here a second time when it fires.
     if (target.inherits("QScrollBar")) return false;
-    const bool twice = event.type() == QEvent::MouseButtonDblClick && event.button() == Qt::LeftButton;
     if (target.inherits("QToolButton")) return refusesFocus();
-    if (!twice) return !form().click(*control(), static_cast<int>(event.button()));
-    form().doubleClick(*control());
-    // The word has been selected already; the editor would take another one.
-    return true;
+    const bool reached = tellClick(event);
+    // A double click has selected the word already; the editor would take another one.
+    return !reached || isDoubleClick(event);
 }
 
 void TextEntry::showModel() {
