@@ -1,10 +1,10 @@
 #include "check/CheckGroup.h"
 #include "check/Output.h"
+#include "support/FileText.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
 #include <set>
 #include <sstream>
 
@@ -16,13 +16,6 @@ namespace {
 namespace fs = std::filesystem;
 
 const fs::path root = QUILLMERE_SOURCE_DIR;
-
-std::string contents(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
 
 TEST(Pages, EveryKindHasItsPageAndEveryPageItsKind) {
     std::set<std::string> kinds;
@@ -36,7 +29,7 @@ TEST(Pages, EveryKindHasItsPageAndEveryPageItsKind) {
 
 TEST(Pages, APageTellsWhatTheProgramTells) {
     for (const FindingKind* kind : findingKinds()) {
-        const std::string page = contents(root / pageOf(*kind));
+        const std::string page = test::fileText(root / pageOf(*kind));
         EXPECT_TRUE(page.starts_with("# " + std::string(kind->id) + "\n")) << kind->id;
         for (const std::string& told : {std::string(captionOf(kind->level)) + "：" + std::string(kind->title),
                                         effectOf(*kind), std::string(kind->remedy)}) {
@@ -49,7 +42,7 @@ TEST(Pages, APageTellsWhatTheProgramTells) {
 TEST(Pages, TheIndexListsAllKinds) {
     std::ostringstream list;
     writeKinds(list);
-    EXPECT_NE(contents(root / "docs/check.md").find(list.str()), std::string::npos) << list.str();
+    EXPECT_NE(test::fileText(root / "docs/check.md").find(list.str()), std::string::npos) << list.str();
 }
 
 } // namespace

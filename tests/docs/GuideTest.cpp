@@ -1,9 +1,10 @@
+#include "support/FileText.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
-#include <fstream>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -16,13 +17,6 @@ namespace {
 namespace fs = std::filesystem;
 
 const fs::path root = QUILLMERE_SOURCE_DIR;
-
-std::string contents(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-}
 
 struct Listing {
     std::string file;
@@ -47,8 +41,9 @@ TEST(GuideTest, TheListingsAreTheFilesThatTheyName) {
     std::size_t count = 0;
     for (const auto& entry : fs::directory_iterator(root / "docs")) {
         if (entry.path().extension() != ".md") continue;
-        for (const Listing& listing : listingsOf(contents(entry.path()))) {
-            EXPECT_EQ(listing.code, contents(root / listing.file)) << entry.path() << " " << listing.file;
+        for (const Listing& listing : listingsOf(test::fileText(entry.path()))) {
+            EXPECT_EQ(listing.code, test::fileText(root / listing.file))
+                << entry.path() << " " << listing.file;
             ++count;
         }
     }
@@ -125,7 +120,7 @@ Texts stringsBelow(const fs::path& folder, const std::string& without = {}) {
         if (entry->path().filename() == without) entry.disable_recursion_pending();
         const fs::path kind = entry->path().extension();
         if (kind != ".cpp" && kind != ".h") continue;
-        const Texts texts = stringsOf(contents(entry->path()));
+        const Texts texts = stringsOf(test::fileText(entry->path()));
         found.insert(found.end(), texts.begin(), texts.end());
     }
     return found;
@@ -154,7 +149,7 @@ bool endsAsAMessage(const std::string& text) {
 
 TEST(GuideTest, WhatTheClerksGuideQuotesStandsInTheSystem) {
     const Texts said = stringsBelow(root / "src");
-    const Texts quoted = between(contents(clerksGuide), "「", "」");
+    const Texts quoted = between(test::fileText(clerksGuide), "「", "」");
     for (const std::string& text : quoted) {
         const auto says = [&](const std::string& each) { return each.find(text) != std::string::npos; };
         EXPECT_TRUE(!text.empty() && std::ranges::any_of(said, says)) << text;
@@ -164,7 +159,7 @@ TEST(GuideTest, WhatTheClerksGuideQuotesStandsInTheSystem) {
 
 TEST(GuideTest, TheButtonsOfTheClerksGuideAreThoseOfTheSystem) {
     const Texts said = stringsBelow(root / "src");
-    const Texts named = between(contents(clerksGuide), "【", "】");
+    const Texts named = between(test::fileText(clerksGuide), "【", "】");
     for (const std::string& button : named) {
         const auto bears = [&](const std::string& each) { return withoutMarks(each) == button; };
         EXPECT_TRUE(std::ranges::any_of(said, bears)) << button;
@@ -173,7 +168,7 @@ TEST(GuideTest, TheButtonsOfTheClerksGuideAreThoseOfTheSystem) {
 }
 
 TEST(GuideTest, TheFirstColumnOfMessagesInTheClerksGuideIsQuoted) {
-    std::istringstream lines(contents(clerksGuide));
+    std::istringstream lines(test::fileText(clerksGuide));
     bool ofMessages = false;
     int rows = 0;
     for (std::string line; std::getline(lines, line);) {
@@ -189,7 +184,7 @@ TEST(GuideTest, TheFirstColumnOfMessagesInTheClerksGuideIsQuoted) {
 }
 
 TEST(GuideTest, TheClerksGuideTellsEveryMessageOfTheSystem) {
-    const std::string guide = contents(clerksGuide);
+    const std::string guide = test::fileText(clerksGuide);
     std::size_t count = 0;
     for (const char* folder : {"metadata", "binding", "photos", "panels", "save", "shell"}) {
         // The catalogue of panels has titles, no messages.
@@ -204,9 +199,9 @@ TEST(GuideTest, TheClerksGuideTellsEveryMessageOfTheSystem) {
 }
 
 TEST(GuideTest, EveryPictureIsShownByADocument) {
-    std::string documents = contents(root / "README.md");
+    std::string documents = test::fileText(root / "README.md");
     for (const auto& entry : fs::directory_iterator(root / "docs"))
-        if (entry.path().extension() == ".md") documents += contents(entry.path());
+        if (entry.path().extension() == ".md") documents += test::fileText(entry.path());
     for (const auto& entry : fs::directory_iterator(root / "docs/images"))
         EXPECT_NE(documents.find("images/" + entry.path().filename().string()), std::string::npos) << entry;
 }
@@ -216,7 +211,7 @@ TEST(GuideTest, EveryLinkLeadsToAFile) {
     for (const auto& entry : fs::directory_iterator(root / "docs"))
         if (entry.path().extension() == ".md") documents.push_back(entry.path());
     for (const fs::path& document : documents) {
-        for (const std::string& link : linksOf(contents(document)))
+        for (const std::string& link : linksOf(test::fileText(document)))
             EXPECT_TRUE(fs::exists(document.parent_path() / link)) << document << " " << link;
     }
 }

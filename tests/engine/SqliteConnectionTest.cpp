@@ -40,16 +40,6 @@ protected:
     }
 };
 
-/// The description that `action` fails with; empty when it does not fail.
-std::string descriptionOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const Error& error) {
-        return error.description();
-    }
-    return {};
-}
-
 /// Runs `action` in a process of its own, which is killed `after` it has begun, or which ends by
 /// itself. True when it was killed.
 bool killedWhile(const std::function<void()>& action, std::chrono::milliseconds after) {

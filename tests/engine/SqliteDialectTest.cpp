@@ -7,16 +7,6 @@ namespace {
 
 using SqliteDialect = SqliteBench;
 
-/// The description that `action` fails with; empty when it does not fail.
-std::string descriptionOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const Error& error) {
-        return error.description();
-    }
-    return {};
-}
-
 TEST_F(SqliteDialect, SemicolonsAtTheEndAreNoStatement) {
     EXPECT_EQ(connection->query("select 1; ;;\n ").at(0, 0), data::Value(1));
 }

@@ -30,15 +30,6 @@ protected:
     std::shared_ptr<PostgreSqlConnection> bare;
 };
 
-std::string descriptionOf(const std::function<void()>& action) {
-    try {
-        action();
-    } catch (const Error& error) {
-        return error.description();
-    }
-    return {};
-}
-
 TEST_F(BareDatabase, HasNoVersionAndThenTheNeededOne) {
     EXPECT_EQ(installedJetVersion(*bare), 0);
     installJetSchema(*bare);

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <optional>
+#include <string>
 
 namespace quillmere {
 
@@ -16,6 +17,16 @@ inline std::optional<int> failureOf(const std::function<void()>& action) {
         return error.number();
     }
     return std::nullopt;
+}
+
+/// The description of the Error that `action` raises; empty when it raises nothing.
+inline std::string descriptionOf(const std::function<void()>& action) {
+    try {
+        action();
+    } catch (const Error& error) {
+        return error.description();
+    }
+    return {};
 }
 
 inline std::optional<int> number(Failure failure) { return static_cast<int>(failure); }
