@@ -131,7 +131,10 @@ void FilterBar::buildSearch() {
     search_->setAccessibleName(QStringLiteral("查找"));
     search_->setMinimumWidth(searchWidth);
     search_->installEventFilter(this);
-    search_->addAction(look::icon(look::Glyph::Search, hintColour), QLineEdit::LeadingPosition);
+    QAction* sign =
+        search_->addAction(look::icon(look::Glyph::Search, hintColour), QLineEdit::LeadingPosition);
+    sign->setText(QStringLiteral("到查找框"));
+    connect(sign, &QAction::triggered, search_, qOverload<>(&QWidget::setFocus));
     clear_ = search_->addAction(look::icon(look::Glyph::Clear, hintColour), QLineEdit::TrailingPosition);
     clear_->setText(QStringLiteral("清除查找内容"));
     clear_->setToolTip(QStringLiteral("清除（Esc）"));
