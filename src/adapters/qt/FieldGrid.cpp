@@ -25,7 +25,6 @@ constexpr int narrowestEditor = 120;
 /// What a box should have before a long caption may stand on one line.
 constexpr int comfortableEditor = 160;
 constexpr int memoHeight = 84;
-constexpr int cornerRows = 6;
 constexpr int columnGap = 18;
 constexpr int spacing = 8;
 /// Columns of the layout that one column of fields takes: caption, editor, unit, gap.
@@ -55,49 +54,6 @@ bool comeInPairs(const std::vector<Field>& fields) {
     }
     return true;
 }
-
-} // namespace
-
-/// Deals out places row by row, around the corner.
-class FieldGrid::Slots {
-public:
-    Slots(int columns, bool corner)
-        : columns_(columns), cornerRows_(corner ? (columns > 1 ? cornerRows : 1) : 0) {
-        if (corner && columns == 1) row_ = 1;
-    }
-
-    [[nodiscard]] Place next() {
-        const Place place{row_, column_};
-        if (++column_ >= columnsIn(row_)) newRow();
-        return place;
-    }
-
-    /// The first of `count` rows that no field stands in yet.
-    [[nodiscard]] int wholeRows(int count) {
-        if (column_ != 0) newRow();
-        row_ = std::max(row_, cornerRows_);
-        const int first = row_;
-        row_ += count;
-        return first;
-    }
-
-private:
-    [[nodiscard]] int columnsIn(int row) const {
-        return columns_ > 1 && row < cornerRows_ ? columns_ - 1 : columns_;
-    }
-
-    void newRow() {
-        ++row_;
-        column_ = 0;
-    }
-
-    int columns_;
-    int cornerRows_;
-    int row_ = 0;
-    int column_ = 0;
-};
-
-namespace {
 
 std::vector<QObject*> partsOf(const Field& field) {
     std::vector<QObject*> parts{field.editor};
@@ -246,7 +202,7 @@ void FieldGrid::resizeEvent(QResizeEvent* event) {
     if (shape != shape_) arrange(shape);
 }
 
-void FieldGrid::placeField(QGridLayout& grid, const Field& field, const Place& place) {
+void FieldGrid::placeField(QGridLayout& grid, const Field& field, const FieldPlace& place) {
     const int first = place.column * perColumn;
     if (field.isWide()) {
         const int all = shape_.columns * perColumn - 1;
@@ -279,7 +235,7 @@ void FieldGrid::placeCorner(QGridLayout& grid) {
     grid.addWidget(corner_, 0, first + 1, rows, 2, Qt::AlignTop);
 }
 
-std::vector<int> FieldGrid::captionWidths(const Shape& shape, const std::vector<Place>& places) const {
+std::vector<int> FieldGrid::captionWidths(const Shape& shape, const std::vector<FieldPlace>& places) const {
     std::vector<int> widths(static_cast<std::size_t>(shape.columns), 0);
     if (cornerCaption_ != nullptr) widths.back() = boldWidth(*cornerCaption_);
     for (std::size_t i = 0; i < fields_.size(); ++i) {
@@ -290,15 +246,13 @@ std::vector<int> FieldGrid::captionWidths(const Shape& shape, const std::vector<
     return widths;
 }
 
-std::vector<FieldGrid::Place> FieldGrid::placesIn(int columns) const {
-    Slots free(columns, corner_ != nullptr);
-    std::vector<Place> places;
-    for (const Field& field : fields_)
-        places.push_back(field.isWide() ? Place{free.wholeRows(2), 0} : free.next());
-    return places;
+std::vector<FieldPlace> FieldGrid::placesIn(int columns) const {
+    std::vector<bool> wide;
+    std::ranges::transform(fields_, std::back_inserter(wide), &Field::isWide);
+    return placesFor(wide, columns, corner_ != nullptr);
 }
 
-void FieldGrid::setColumns(QGridLayout& grid, const std::vector<Place>& places) {
+void FieldGrid::setColumns(QGridLayout& grid, const std::vector<FieldPlace>& places) {
     const std::vector<int> captions = captionWidths(shape_, places);
     for (int column = 0; column < shape_.columns; ++column) {
         const int first = column * perColumn;
@@ -318,7 +272,7 @@ void FieldGrid::arrange(const Shape& shape) {
     grid->setContentsMargins(sideMargin_, 14, sideMargin_, 14);
     grid->setHorizontalSpacing(spacing);
     grid->setVerticalSpacing(7);
-    const std::vector<Place> places = placesIn(shape.columns);
+    const std::vector<FieldPlace> places = placesIn(shape.columns);
     setColumns(*grid, places);
     placeCorner(*grid);
     for (std::size_t i = 0; i < fields_.size(); ++i)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "adapters/qt/ControlGroup.h"
+#include "adapters/qt/FieldPlaces.h"
 
 #include <QWidget>
 
@@ -33,11 +34,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    class Slots;
-    struct Place {
-        int row;
-        int column;
-    };
     /// How the fields stand at a width.
     struct Shape {
         int columns = 1;
@@ -54,14 +50,15 @@ private:
     [[nodiscard]] int columnsFor(int width) const;
     [[nodiscard]] Shape shapeFor(int width) const;
     /// A place for each field, in their order.
-    [[nodiscard]] std::vector<Place> placesIn(int columns) const;
+    [[nodiscard]] std::vector<FieldPlace> placesIn(int columns) const;
     /// What the widest caption of each column needs.
-    [[nodiscard]] std::vector<int> captionWidths(const Shape& shape, const std::vector<Place>& places) const;
+    [[nodiscard]] std::vector<int> captionWidths(const Shape& shape,
+                                                 const std::vector<FieldPlace>& places) const;
     void arrange(const Shape& shape);
     void placeCorner(QGridLayout& grid);
     /// Gives each column the width of its own captions; the boxes of all columns are equally wide.
-    void setColumns(QGridLayout& grid, const std::vector<Place>& places);
-    void placeField(QGridLayout& grid, const Field& field, const Place& place);
+    void setColumns(QGridLayout& grid, const std::vector<FieldPlace>& places);
+    void placeField(QGridLayout& grid, const Field& field, const FieldPlace& place);
     [[nodiscard]] static int captionWidth(const QLabel& caption, bool wraps);
 
     std::vector<Field> all_;
