@@ -3,6 +3,7 @@
 #include "adapters/qt/SkinText.h"
 #include "adapters/qt/Style.h"
 #include "qt/MaintenanceTest.h"
+#include "qt/SkinFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -15,22 +16,11 @@
 #include <QTemporaryDir>
 #include <QToolButton>
 
-#include <algorithm>
-#include <cmath>
 #include <stdexcept>
-#include <vector>
 
 namespace quillmere::test {
 
 namespace {
-
-QString skinFile(const char* name) { return QStringLiteral(QUILLMERE_SKINS "/") + QLatin1String(name); }
-
-QString textOf(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) throw std::runtime_error("cannot read " + path.toStdString());
-    return QString::fromUtf8(file.readAll());
-}
 
 /// What is told on stderr while it lives.
 class Notes {
@@ -53,70 +43,6 @@ private:
     }
 
     QtMessageHandler before_;
-};
-
-/// The contrast of two colours, from 1 to 21, by the formula of the accessibility guidelines.
-double contrast(const QColor& one, const QColor& other) {
-    const auto linear = [](double part) {
-        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    const auto luminance = [&](const QColor& colour) {
-        return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-               0.0722 * linear(colour.blueF());
-    };
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
-struct Pair {
-    const char* front;
-    const char* ground;
-};
-
-constexpr Pair readTexts[]{
-    {"text", "ground"},
-    {"text", "card"},
-    {"text", "quiet"},
-    {"text", "field"},
-    {"text", "coded"},
-    {"text", "button"},
-    {"text", "buttonHover"},
-    {"text", "hover"},
-    {"text", "pressed"},
-    {"text", "popup"},
-    {"strongText", "header"},
-    {"captionText", "card"},
-    {"mutedText", "ground"},
-    {"mutedText", "card"},
-    {"mutedText", "quiet"},
-    {"mutedText", "field"},
-    {"disabledText", "card"},
-    {"disabledText", "disabledField"},
-    {"disabledText", "quiet"},
-    {"disabledText", "codedDisabled"},
-    {"disabledText", "ground"},
-    {"lockedText", "lockedField"},
-    {"nameText", "card"},
-    {"accentText", "accent"},
-    {"accentText", "accentHover"},
-    {"accentText", "accentPressed"},
-    {"selectionText", "selection"},
-    {"pillText", "pill"},
-    {"link", "card"},
-    {"link", "pressed"},
-    {"menuText", "menu"},
-    {"menuText", "menuHover"},
-    {"menuItemText", "menuItems"},
-    {"menuOpenText", "menuOpen"},
-    {"menuOpenText", "menuCurrent"},
-    {"menuOpenText", "menuHover"},
-};
-
-/// Signs that are no text: what has the keyboard, pictures.
-constexpr Pair seenSigns[]{
-    {"focus", "card"},          {"focus", "ground"},   {"focus", "field"},    {"focus", "coded"},
-    {"primaryFocus", "accent"}, {"icon", "card"},      {"menuIcon", "menu"},  {"menuMark", "menuItems"},
-    {"signMark", "warning"},    {"signMark", "error"}, {"signMark", "focus"},
 };
 
 class SkinTest : public MaintenanceTest {
@@ -316,74 +242,6 @@ TEST_F(SkinTest, ASkinThatDeclaresLittleHasTheRestFromTheLightOne) {
     EXPECT_TRUE(skin.sheet().contains(QStringLiteral("QLabel { color: #aa0000; margin: 1px; }")));
     EXPECT_FALSE(skin.sheet().contains(u'@'));
     EXPECT_TRUE(skin.faults().isEmpty());
-}
-
-TEST(SkinTextTest, DeclarationsAreTakenOutOfTheRules) {
-    const qt::SkinText skin = qt::readSkin(QStringLiteral(
-        "/* @hidden: #111111; */\n@one: #102030;\n@two :red ;\nA { color: @one; }\n@three:#80FFFFFF;"));
-    EXPECT_EQ(QColor(0x10, 0x20, 0x30), skin.colours.value(QStringLiteral("one")));
-    EXPECT_EQ(QColor(Qt::red), skin.colours.value(QStringLiteral("two")));
-    EXPECT_EQ(QColor(255, 255, 255, 128), skin.colours.value(QStringLiteral("three")));
-    EXPECT_EQ(3, skin.colours.size());
-    EXPECT_EQ(QStringLiteral("A { color: @one; }"), skin.rules.trimmed());
-    EXPECT_TRUE(skin.faults.isEmpty());
-}
-
-TEST(SkinTextTest, WhatIsNoColourIsTold) {
-    const qt::SkinText skin = qt::readSkin(QStringLiteral("@one: bluish;\n@two: #12;"));
-    EXPECT_TRUE(skin.colours.isEmpty());
-    EXPECT_EQ(
-        QStringList({QStringLiteral("@one is no colour: bluish"), QStringLiteral("@two is no colour: #12")}),
-        skin.faults);
-}
-
-TEST(SkinTextTest, NamesInRulesAreReplacedWhole) {
-    QStringList faults;
-    const QMap<QString, QColor> colours{{QStringLiteral("a"), QColor(1, 2, 3)},
-                                        {QStringLiteral("ab"), QColor(255, 255, 255, 0)}};
-    EXPECT_EQ(QStringLiteral("X { color: #010203; background: #00ffffff; }"),
-              qt::withColours(QStringLiteral("X { color: @a; background: @ab; }"), colours, faults));
-    EXPECT_TRUE(faults.isEmpty());
-}
-
-TEST(SkinTextTest, RulesThatCannotWorkAreLeftOutAndTold) {
-    QStringList faults;
-    EXPECT_EQ(QString(), qt::withColours(QStringLiteral("X { color: @nowhere; }"), {}, faults));
-    EXPECT_EQ(QStringList(QStringLiteral("no colour for @nowhere, rules left out")), faults);
-    for (const char* rules : {"X { color: red;", "X color: red; }", "X { Y { } }"}) {
-        faults.clear();
-        EXPECT_EQ(QString(), qt::withColours(QLatin1String(rules), {}, faults)) << rules;
-        EXPECT_EQ(QStringList(QStringLiteral("braces that do not match, rules left out")), faults) << rules;
-    }
-}
-
-TEST(SkinColoursTest, TextsCanBeReadAndSignsSeen) {
-    for (const char* file : {"light.qss", "dark.qss"}) {
-        const qt::Skin skin(textOf(skinFile(file)));
-        const auto compare = [&](const Pair& pair, double least) {
-            const QColor front = skin.colour(QLatin1String(pair.front));
-            const QColor ground = skin.colour(QLatin1String(pair.ground));
-            ASSERT_TRUE(front.isValid()) << pair.front;
-            ASSERT_TRUE(ground.isValid()) << pair.ground;
-            EXPECT_GE(contrast(front, ground), least) << file << ": " << pair.front << " on " << pair.ground;
-        };
-        for (const Pair& pair : readTexts)
-            compare(pair, 4.5);
-        for (const Pair& pair : seenSigns)
-            compare(pair, 3);
-    }
-}
-
-TEST(SkinColoursTest, TheContrastOfBlackAndWhiteIsTwentyOne) {
-    EXPECT_DOUBLE_EQ(21, contrast(Qt::black, Qt::white));
-    EXPECT_DOUBLE_EQ(1, contrast(Qt::red, Qt::red));
-}
-
-TEST(SkinColoursTest, TheDarkSkinSaysAnewEachColourOfTheLightOne) {
-    const qt::SkinText one = qt::readSkin(textOf(skinFile("light.qss")));
-    const qt::SkinText other = qt::readSkin(textOf(skinFile("dark.qss")));
-    EXPECT_EQ(one.colours.keys(), other.colours.keys());
-    EXPECT_TRUE(other.faults.isEmpty());
 }
 
 } // namespace

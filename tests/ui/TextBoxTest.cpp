@@ -1,52 +1,11 @@
-#include "platform/ui/TextBox.h"
+#include "TextBoxBench.h"
 
 #include "platform/text/Text.h"
-#include "platform/ui/Form.h"
-#include "platform/ui/UserControl.h"
-#include "support/ScriptedPerson.h"
-
-#include <gtest/gtest.h>
-
-#include <random>
-#include <string>
-#include <vector>
 
 namespace quillmere::ui {
 namespace {
 
-using Texts = std::vector<std::string>;
-
-class PreviewForm : public Form {
-public:
-    PreviewForm() : Form("frm", "frm") {}
-    std::function<void(char32_t&)> preview = [](char32_t&) {};
-
-protected:
-    void onKeyPreview(char32_t& character) override { preview(character); }
-};
-
-/// A text box with the focus, on a panel of an open form.
-class TextBoxTest : public testing::Test {
-protected:
-    TextBoxTest() { panel.setVisible(true); }
-
-    void work(const std::function<void()>& what) {
-        person.show(form, [&](Form&) {
-            ASSERT_TRUE(form.moveFocus(box));
-            what();
-        });
-    }
-    void type(std::string_view text) { test::typeText(form, text); }
-    void press(std::string_view keys) {
-        for (const KeyStroke& stroke : parseKeys(keys))
-            form.pressKey(stroke);
-    }
-
-    test::ScriptedPerson person;
-    PreviewForm form;
-    UserControl& panel = form.add<UserControl>("panel");
-    TextBox& box = panel.add<TextBox>("box");
-};
+using TextBoxTest = TextBoxBench;
 
 // ---- properties
 
@@ -157,79 +116,6 @@ TEST_F(TextBoxTest, ThePanelSeesKeysFirst) {
     EXPECT_EQ(log, Texts{"panel 113 2"});
 }
 
-// ---- what keys do
-
-struct Row {
-    std::string name;
-    std::string before;
-    std::size_t start;
-    std::size_t length;
-    /// Keys in braces, or a text to type.
-    std::string keys;
-    std::string text;
-    std::size_t caret;
-    std::size_t selected = 0;
-    bool multiLine = false;
-    std::size_t maxLength = 0;
-};
-
-class TextBoxKeysTest : public TextBoxTest, public testing::WithParamInterface<Row> {};
-
-TEST_P(TextBoxKeysTest, KeysGive) {
-    const Row& row = GetParam();
-    box.setText(row.before);
-    box.setMultiLine(row.multiLine);
-    box.setMaxLength(row.maxLength);
-    work([&] {
-        box.setSelection(row.start, row.length);
-        if (row.keys.starts_with("{") || row.keys.starts_with("+{"))
-            press(row.keys);
-        else
-            type(row.keys);
-        EXPECT_EQ(box.Text(), row.text);
-        EXPECT_EQ(box.SelStart(), row.caret);
-        EXPECT_EQ(box.SelLength(), row.selected);
-    });
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Keys, TextBoxKeysTest,
-    testing::Values(Row{"TypesAtTheCaret", "张丰", 1, 0, "三", "张三丰", 2},
-                    Row{"TypingReplacesTheSelection", "张三丰", 1, 2, "飞", "张飞", 2},
-                    Row{"Backspace", "张三", 2, 0, "{Backspace}", "张", 1},
-                    Row{"BackspaceAtTheFront", "张三", 0, 0, "{Backspace}", "张三", 0},
-                    Row{"BackspaceTakesTheSelection", "张三丰", 0, 2, "{Backspace}", "丰", 0},
-                    Row{"Delete", "张三", 0, 0, "{Delete}", "三", 0},
-                    Row{"DeleteAtTheEnd", "张三", 2, 0, "{Delete}", "张三", 2},
-                    Row{"DeleteTakesTheSelection", "张三丰", 1, 1, "{Delete}", "张丰", 1},
-                    Row{"EnterStaysOutOfOneLine", "ab", 1, 0, "{Enter}", "ab", 1},
-                    Row{"EnterBreaksALine", "ab", 1, 0, "{Enter}", "a\r\nb", 3, 0, true},
-                    Row{"BackspaceTakesALineBreakAsOne", "a\r\nb", 3, 0, "{Backspace}", "ab", 1, 0, true},
-                    Row{"DeleteTakesALineBreakAsOne", "a\r\nb", 1, 0, "{Delete}", "ab", 1, 0, true},
-                    Row{"RightGoesOverALineBreakAsOne", "a\r\nb", 1, 0, "{Right}", "a\r\nb", 3, 0, true},
-                    Row{"LeftGoesOverALineBreakAsOne", "a\r\nb", 3, 0, "{Left}", "a\r\nb", 1, 0, true},
-                    Row{"NoHalfALineBreakWhereOnePlaceIsLeft", "ab", 1, 0, "{Enter}", "ab", 1, 0, true, 3},
-                    Row{"EscapeEntersNothing", "ab", 1, 0, "{Esc}", "ab", 1},
-                    Row{"HomeThenShiftEnd", "张三丰", 2, 0, "{Home}+{End}", "张三丰", 0, 3},
-                    Row{"ShiftHome", "张三丰", 2, 0, "+{Home}", "张三丰", 0, 2},
-                    Row{"ShiftLeftTwice", "张三丰", 3, 0, "+{Left}+{Left}", "张三丰", 1, 2},
-                    Row{"ShiftLeftThenRight", "张三丰", 3, 0, "+{Left}+{Left}+{Right}", "张三丰", 2, 1},
-                    Row{"ShiftRightOverTheOtherEnd", "张三丰", 1, 0, "+{Left}+{Right}+{Right}", "张三丰", 1,
-                        1},
-                    Row{"LeftLeavesASelectionAtItsFront", "张三丰", 1, 2, "{Left}", "张三丰", 1},
-                    Row{"RightLeavesASelectionAtItsEnd", "张三丰", 0, 2, "{Right}", "张三丰", 2},
-                    Row{"MaxLengthCountsCharacters", "", 0, 0, "张三丰无忌", "张三丰", 3, 0, false, 3},
-                    Row{"AFullBoxTakesAReplacement", "张三丰", 2, 1, "飞", "张三飞", 3, 0, false, 3},
-                    Row{"AFullBoxKeepsItsText", "张三丰", 0, 0, "飞", "张三丰", 0, 0, false, 3}),
-    [](const testing::TestParamInfo<Row>& row) { return row.param.name; });
-
-TEST_F(TextBoxTest, TheCharacterOfADeletionByWordEntersNothing) {
-    work([&] {
-        form.typeCharacter(127);
-        EXPECT_EQ(box.Text(), "");
-    });
-}
-
 // ---- Locked
 
 TEST_F(TextBoxTest, ALockedBoxTakesTheFocusAndRefusesEveryEdit) {
@@ -251,58 +137,6 @@ TEST_F(TextBoxTest, ALockedBoxTakesTheFocusAndRefusesEveryEdit) {
     });
 }
 
-// ---- pasting
-
-TEST_F(TextBoxTest, APasteReplacesTheSelectionAndRaisesOneChange) {
-    box.setText("张三丰");
-    int changes = 0;
-    box.Change.connect([&] { ++changes; });
-    work([&] {
-        box.setSelection(1, 2);
-        form.paste("无忌");
-        EXPECT_EQ(box.Text(), "张无忌");
-        EXPECT_EQ(box.SelStart(), 3U);
-        EXPECT_EQ(changes, 1);
-    });
-}
-
-TEST_F(TextBoxTest, APasteDoesNotPassTheKeyFilter) {
-    box.KeyPress.connect([](char32_t& c) { c = bellCharacter; });
-    work([&] {
-        form.paste("abc");
-        EXPECT_EQ(box.Text(), "abc");
-    });
-}
-
-TEST_F(TextBoxTest, APasteIsCutToMaxLengthInCharacters) {
-    box.setText("张");
-    box.setMaxLength(3);
-    work([&] {
-        press("{End}");
-        form.paste("三丰无忌");
-        EXPECT_EQ(box.Text(), "张三丰");
-    });
-}
-
-TEST_F(TextBoxTest, APasteIntoOneLineEndsAtTheLineBreak) {
-    work([&] {
-        form.paste("一\r\n二");
-        EXPECT_EQ(box.Text(), "一");
-    });
-}
-
-TEST_F(TextBoxTest, APasteIntoManyLinesKeepsThemAndTearsNone) {
-    box.setMultiLine(true);
-    work([&] {
-        form.paste("一\r\n二");
-        EXPECT_EQ(box.Text(), "一\r\n二");
-        box.setMaxLength(2);
-        form.selectAll();
-        form.paste("三\r\n四");
-        EXPECT_EQ(box.Text(), "三");
-    });
-}
-
 // ---- edits that a toolkit's own editor made
 
 TEST_F(TextBoxTest, AnEditOfTheToolkitRaisesChange) {
@@ -321,42 +155,6 @@ TEST_F(TextBoxTest, AnEditOfTheToolkitBeyondMaxLengthIsUndone) {
     EXPECT_EQ(box.Text(), "张三丰");
     box.personEdited("张三", 2);
     EXPECT_EQ(box.Text(), "张三");
-}
-
-// ---- whatever is typed
-
-TEST_F(TextBoxTest, NoSequenceOfKeysBreaksTheBox) {
-    const Texts keys{"{Home}",  "{End}",  "{Left}",      "{Right}",  "+{Left}", "+{Right}",
-                     "+{Home}", "+{End}", "{Backspace}", "{Delete}", "{Enter}"};
-    const Texts pieces{"张", "a", "１", "\r\n", "三\r\n四", "abcdefgh", "𠮷"};
-    constexpr std::size_t most = 7;
-    box.setMultiLine(true);
-    box.setMaxLength(most);
-    std::mt19937 random(20240229);
-    work([&] {
-        for (int sequence = 0; sequence < 2000; ++sequence) {
-            std::string history;
-            box.setText("");
-            for (int i = 0; i < 12; ++i) {
-                const auto kind = random() % 3;
-                const std::string& entry =
-                    kind == 0 ? keys[random() % keys.size()] : pieces[random() % pieces.size()];
-                history += entry + "|";
-                if (kind == 0)
-                    press(entry);
-                else if (kind == 1)
-                    type(entry);
-                else
-                    form.paste(entry);
-                const std::string& shown = box.Text();
-                ASSERT_LE(text::length(shown), most) << history;
-                ASSERT_LE(box.SelStart() + box.SelLength(), text::length(shown)) << history;
-                // Every line break is whole.
-                const std::string joined = text::replaceAll(shown, "\r\n", "");
-                ASSERT_EQ(joined.find_first_of("\r\n"), std::string::npos) << history;
-            }
-        }
-    });
 }
 
 // ---- double click
