@@ -77,7 +77,7 @@ bool CompilationNote::readsBoolean(sqlite3* database, const std::string& name) c
 
 void Statement::Finalize::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 
-Statement::Statement(sqlite3* database, CompilationNote& note, std::string_view sql)
+Statement::Statement(sqlite3* database, CompilationNote& note, std::string_view sql, std::size_t parameters)
     : database_(database), note_(note) {
     if (sql.empty()) raiseStatementFailed(emptyStatement);
     // SQLite would stop reading there and run what stands before it.
@@ -93,6 +93,9 @@ Statement::Statement(sqlite3* database, CompilationNote& note, std::string_view 
     std::string_view tail;
     handle_ = compile(sql, tail);
     if (!handle_) raiseStatementFailed(emptyStatement);
+    // The name of one may hold a quote, as $a(') does, and so hide the rest of a statement.
+    if (static_cast<std::size_t>(sqlite3_bind_parameter_count(handle_.get())) != parameters)
+        raiseStatementFailed("语句中含有参数");
     isPragma_ = note_.sawPragma();
     if (!isPragma_) describeColumns();
 
@@ -138,6 +141,15 @@ void Statement::describeColumns() {
                                             : isBooleanType(type));
     }
     recompilations_ = sqlite3_stmt_status(handle_.get(), SQLITE_STMTSTATUS_REPREPARE, 0);
+}
+
+void Statement::bind(const std::vector<std::string>& texts) {
+    int position = 0;
+    for (const std::string& text : texts) {
+        const int code = sqlite3_bind_text(handle_.get(), ++position, text.data(),
+                                           static_cast<int>(text.size()), SQLITE_TRANSIENT);
+        if (code != SQLITE_OK) raiseLatest(database_, code);
+    }
 }
 
 bool Statement::step() {

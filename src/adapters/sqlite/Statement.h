@@ -48,8 +48,12 @@ private:
 class Statement {
 public:
     /// Compiles the one statement of `sql`. Raises StatementFailed for none, for more than one and
-    /// for a faulty one; nothing has run then.
-    Statement(sqlite3* database, CompilationNote& note, std::string_view sql);
+    /// for a faulty one, and for one with another number of parameters than it is said to have; nothing
+    /// has run then.
+    Statement(sqlite3* database, CompilationNote& note, std::string_view sql, std::size_t parameters = 0);
+
+    /// Puts the texts in the place of the parameters, in their order, for the next run.
+    void bind(const std::vector<std::string>& texts);
 
     /// Runs it to its end, from the start. Raises what the statement raises.
     [[nodiscard]] data::RowSet query();

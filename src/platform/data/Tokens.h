@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -17,6 +18,10 @@ struct Token {
     [[nodiscard]] bool isWord(std::string_view keyword) const;
     [[nodiscard]] bool isSign(char sign) const { return kind == Kind::Sign && text.front() == sign; }
 };
+
+/// Takes the first piece off `rest`, and the blanks and comments before it; none when there is no more. It
+/// refers to what `rest` refers to.
+[[nodiscard]] std::optional<Token> takeToken(std::string_view& rest);
 
 /// The pieces of `sql` in their order, without blanks and comments. They refer to `sql`.
 [[nodiscard]] std::vector<Token> tokensOf(std::string_view sql);
