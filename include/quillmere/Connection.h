@@ -14,8 +14,9 @@ namespace quillmere::data {
 ///   `mid`, `format(value, picture)`, `like` with `%` and without regard to case, `true`, `false`.
 ///   A trailing `;` and blanks are allowed. More than one statement is refused with
 ///   StatementFailed before anything runs.
-/// - The dialect has no comments: a statement with one is refused in the same way, so that a quote in a
-///   person's text cannot hide the rest of its statement.
+/// - The dialect has no comments and no parameters, and quotes texts as `'...'` and names as `"..."`.
+///   What else of these an engine has is refused in the same way wherever a quote in a person's text could
+///   hide the rest of its statement by it.
 /// - Text is compared without regard to (ASCII) case.
 /// - Each statement stands alone: what it changed is stored when the call returns.
 /// - A failing statement raises Error (StatementFailed, ConstraintFailed, Unspecified) whose

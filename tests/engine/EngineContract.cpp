@@ -143,6 +143,26 @@ TEST_P(EngineContract, ACommentIsRefusedBeforeAnythingRuns) {
     EXPECT_EQ(cell("select count(*) from s_infotable where tbldesc='x'").toLong(), 0);
 }
 
+TEST_P(EngineContract, OtherQuotesAndParametersCannotHideACondition) {
+    makeInfoTable();
+    // In each of them an engine may see a quote, or its end, where the dialect sees none.
+    for (const char* text : {"x',orderfield=$a(')--", "x',orderfield=@a(')--", "x',orderfield=:a(')--",
+                             "x'||E'\\'' --", "x'||e'\\'' --", "x'||1E'\\'' --", "x'||$$'$$ --",
+                             "x'||$a$'$a$ --", "x'||(array['a]'])[1] --", "x',orderfield=?||'"}) {
+        const std::string sql =
+            std::string("update s_infotable set tbldesc='").append(text).append("' where tblname='A01'");
+        EXPECT_EQ(failureOf([&] { execute(sql); }), number(Failure::StatementFailed)) << sql;
+    }
+    EXPECT_EQ(cell("select count(*) from s_infotable where tbldesc like 'x%'").toLong(), 0);
+}
+
+TEST_P(EngineContract, TheMarksOfOtherQuotesAndParametersInATextAreNone) {
+    makeInfoTable();
+    constexpr std::string_view text = R"(E\ $$ $a$ [1] `b` ? :c @d $e #f)";
+    EXPECT_EQ(cell(std::string("select '").append(text).append("' from s_infotable where tblname='A01'")),
+              Value(text));
+}
+
 TEST_P(EngineContract, TheMarksOfACommentInATextOrANameAreNone) {
     makeInfoTable();
     EXPECT_EQ(cell("select '-- it''s /* one */' from s_infotable where tblname='A01'"),

@@ -1,6 +1,7 @@
 #include "SqliteBench.h"
 
 #include "../support/FailureNumber.h"
+#include "platform/text/Text.h"
 
 namespace quillmere::sqlite {
 namespace {
@@ -14,6 +15,17 @@ TEST_F(SqliteDialect, SemicolonsAtTheEndAreNoStatement) {
 TEST_F(SqliteDialect, ACommentIsToldInItsOwnWords) {
     EXPECT_EQ(descriptionOf([&] { (void)connection->query("select 1 -- end"); }),
               "语句执行失败：语句中含有注释");
+}
+
+TEST_F(SqliteDialect, AParameterIsToldInItsOwnWords) {
+    for (const char* sql : {"select ?", "select ?1", "select :a", "select @a", "select $a", "select $a(')"})
+        EXPECT_EQ(descriptionOf([&] { (void)connection->query(sql); }), "语句执行失败：语句中含有参数")
+            << sql;
+}
+
+TEST_F(SqliteDialect, AComplaintOfBytesThatAreNoCharactersIsText) {
+    const std::string description = descriptionOf([&] { (void)connection->query("select \xA7"); });
+    EXPECT_EQ(text::encode(text::decode(description)), description);
 }
 
 TEST_F(SqliteDialect, APragmaBesideAnotherStatementIsRefusedBeforeItActs) {

@@ -3,8 +3,8 @@
 #include "adapters/postgresql/PostgreSqlError.h"
 #include "adapters/postgresql/ResultRows.h"
 #include "adapters/postgresql/Session.h"
+#include "adapters/postgresql/StatementGuard.h"
 #include "platform/Error.h"
-#include "platform/data/EmptyList.h"
 
 #include <libpq-fe.h>
 
@@ -16,14 +16,6 @@
 namespace quillmere::postgresql {
 
 namespace {
-
-/// What is refused before the server sees it, in the same words as on every engine.
-void check(std::string_view sql) {
-    if (sql.empty()) raiseStatementFailed("语句为空");
-    if (sql.find('\0') != std::string_view::npos) raiseStatementFailed("语句中含有无效字符");
-    if (data::hasComment(sql)) raiseStatementFailed("语句中含有注释");
-    if (data::hasEmptyList(data::tokensOf(sql))) raiseStatementFailed("in 后面的列表是空的");
-}
 
 /// Leaves the copying that a statement began; the connection is good for the next one then.
 void leaveCopy(pg_conn* connection, ExecStatusType status) {
@@ -66,7 +58,7 @@ private:
 
     Result run(std::string_view sql) {
         Session& session = requireSession();
-        check(sql);
+        requireDialect(sql);
         Result result = send(session, sql);
         const ExecStatusType status = PQresultStatus(result.get());
         if (status == PGRES_COPY_IN || status == PGRES_COPY_OUT) {
