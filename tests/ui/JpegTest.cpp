@@ -44,6 +44,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Row{"Progressive", true, {start, progressive, scan, data, end}},
                     Row{"CommentsAndTables", true, {start, comment, tables, frame, tables, scan, data, end}},
                     Row{"FillBytes", true, {start, "\xFF\xFF"sv, frame, scan, data, end}},
+                    Row{"FillBytesBeforeTheStart", false, {"\xFF\xFF"sv, start, frame, scan, data, end}},
                     Row{"SomethingBehindTheEnd", true, {start, frame, scan, data, end, "more"sv}},
                     Row{"BrokenOffWithinTheScan", true, {start, frame, scan, data}}, Row{"Empty", false, {}},
                     Row{"Text", false, {"no image"sv}},

@@ -1,6 +1,7 @@
 #include "adapters/sqlite/SqliteError.h"
 
 #include "platform/Error.h"
+#include "platform/text/Text.h"
 
 #include <sqlite3.h>
 
@@ -58,7 +59,9 @@ std::string withReason(std::string_view text, std::string_view reason) {
 
 void raiseLatest(sqlite3* database, int code) {
     const auto& description = find(code);
-    throw Error(description.failure, withReason(description.text, sqlite3_errmsg(database)), "SQLite");
+    // The engine repeats a piece of the statement, whatever bytes that holds.
+    const std::string reason = text::encode(text::decode(sqlite3_errmsg(database)));
+    throw Error(description.failure, withReason(description.text, reason), "SQLite");
 }
 
 void raiseStatementFailed(std::string_view reason) {

@@ -69,8 +69,9 @@ private:
 } // namespace
 
 bool isJpeg(std::string_view content) {
+    // Decoders want the first marker at once, without the fill bytes that may stand before any other.
     Segments segments(content);
-    if (segments.next() != marker::startOfImage) return false;
+    if (!content.starts_with("\xFF\xD8") || segments.next() != marker::startOfImage) return false;
     bool hasFrame = false;
     while (const auto code = segments.next()) {
         if (*code == marker::startOfScan) return hasFrame;

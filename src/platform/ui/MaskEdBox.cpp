@@ -19,7 +19,9 @@ void MaskEdBox::pointByPerson(std::size_t position) {
 Mask::State MaskEdBox::state() const { return {text::decode(Text()), SelStart(), SelLength()}; }
 
 void MaskEdBox::apply(const Mask::State& state) {
-    show(text::encode(state.text), {state.caret, state.selected, false});
+    // By characters: bytes that are none stay until a person changes something.
+    const bool differs = state.text != text::decode(Text());
+    show(differs ? text::encode(state.text) : Text(), {state.caret, state.selected, false});
 }
 
 void MaskEdBox::personCharacter(char32_t character) {
