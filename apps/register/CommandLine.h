@@ -18,6 +18,8 @@ struct CommandLine {
     QString skin;
     /// Of the panels' window; invalid for as high as each panel needs.
     QSize size;
+    /// The journal of what is changed and deleted; empty for none.
+    QString journal;
     /// Code of the bureau that the register is kept for; empty when it is kept for all of them.
     QString unitCode;
     bool help = false;

@@ -3,6 +3,7 @@
 #include "platform/data/Connection.h"
 #include "register/StartWindow.h"
 
+#include <quillmere/Journal.h>
 #include <quillmere/Sqlite.h>
 
 #include <QDir>
@@ -10,6 +11,8 @@
 
 #include <algorithm>
 #include <array>
+#include <iostream>
+#include <utility>
 
 namespace quillmere::host {
 
@@ -32,6 +35,18 @@ constexpr std::array troubles{
             "请选择由本系统建立的登记库；如果它原来能打开，可能已经损坏，请用备份恢复。"},
 };
 
+/// The clerk works on when something cannot be kept, so that it is told where an administrator looks.
+std::shared_ptr<data::Connection> withJournal(std::shared_ptr<data::Connection> connection,
+                                              const QString& path, const QString& journal) {
+    JournalOptions options;
+    options.file = journal.toStdString();
+    options.who = (qEnvironmentVariable("USER") + u' ' + QFileInfo(path).fileName()).toStdString();
+    options.complain = [](const std::string& words) {
+        std::cerr << "quillmere-register: " << words << std::endl;
+    };
+    return journaled(std::move(connection), std::move(options));
+}
+
 /// A log beside the file needs the folder to be writable too.
 bool mayWrite(const QFileInfo& file) {
     return file.isWritable() && QFileInfo(file.absolutePath()).isWritable();
@@ -39,17 +54,18 @@ bool mayWrite(const QFileInfo& file) {
 
 } // namespace
 
-std::unique_ptr<MainWindow> openRegister(const QString& path, const QString& unitCode, bool remembers) {
+std::unique_ptr<MainWindow> openRegister(const QString& path, const OpenSettings& settings) {
     const auto connect = [path] { return openSqlite(path.toStdString()); };
-    RegisterList list(connect());
+    RegisterList list(settings.journal.isEmpty() ? connect()
+                                                 : withJournal(connect(), path, settings.journal));
     const QFileInfo file(path);
     return std::make_unique<MainWindow>(std::move(list),
                                         HostSettings{.file = file.fileName(),
                                                      .photoPath = photosOf(path),
-                                                     .unitCode = unitCode,
+                                                     .unitCode = settings.unitCode,
                                                      .openForSearch = connect,
                                                      .readOnly = !mayWrite(file),
-                                                     .memory = remembers ? Memory(path) : Memory()});
+                                                     .memory = settings.remembers ? Memory(path) : Memory()});
 }
 
 Problem problemWith(const QString& path, const std::exception& failure) {

@@ -63,7 +63,7 @@ int goOnTour(const CommandLine& line) {
     qt::ToolkitOptions options;
     options.companion = &tour;
     const qt::Toolkit toolkit(options);
-    const std::unique_ptr<MainWindow> window = openRegister(path, line.unitCode, false);
+    const std::unique_ptr<MainWindow> window = openRegister(path, {.unitCode = line.unitCode});
     tour.run(*window);
     return EXIT_SUCCESS;
 }
@@ -83,7 +83,7 @@ int shootPanels(const CommandLine& line) {
 int workInWindow(const CommandLine& line) {
     // The maintenance window shows on this toolkit, which must outlive every opening of it.
     const qt::Toolkit toolkit;
-    Reception reception(line.unitCode, {askForFile, askForPlace});
+    Reception reception({line.unitCode, line.journal, true}, {askForFile, askForPlace});
     const QString path = registerToOpen(line);
     if (path.isEmpty())
         reception.welcome();

@@ -1,18 +1,16 @@
 #include "register/Reception.h"
 
-#include "register/OpenRegister.h"
-
 #include <QFileInfo>
 
 #include <utility>
 
 namespace quillmere::host {
 
-Reception::Reception(QString unitCode, Questions ask)
-    : unitCode_(std::move(unitCode)), ask_(std::move(ask)) {}
+Reception::Reception(OpenSettings settings, Questions ask)
+    : settings_(std::move(settings)), ask_(std::move(ask)) {}
 
 std::unique_ptr<MainWindow> Reception::windowOf(const QString& path) {
-    auto window = openRegister(path, unitCode_, true);
+    auto window = openRegister(path, settings_);
     window->onOpenAnother([this] { openAnother(); });
     Memory::setLastRegister(path);
     path_ = path;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "register/MainWindow.h"
+#include "register/OpenRegister.h"
 #include "register/StartWindow.h"
 
 #include <QString>
@@ -20,7 +21,7 @@ public:
         std::function<QString()> placeForSample;
     };
 
-    Reception(QString unitCode, Questions ask);
+    Reception(OpenSettings settings, Questions ask);
 
     void open(const QString& path);
     void welcome();
@@ -34,7 +35,7 @@ private:
     [[nodiscard]] std::unique_ptr<MainWindow> windowOf(const QString& path);
     void replaceWindow(std::unique_ptr<MainWindow> next);
 
-    QString unitCode_;
+    OpenSettings settings_;
     Questions ask_;
     QString path_;
     std::unique_ptr<MainWindow> window_;

@@ -34,6 +34,7 @@ const std::vector<Layer>& layers() {
         {"cinterface", {"platform", "quillmere", "quillmere.h"}, ""},
         {"adapters/sqlite", {"platform", "quillmere"}, "sqlite3\\.h"},
         {"adapters/postgresql", {"platform", "quillmere"}, "libpq-fe\\.h|postgresql/libpq-fe\\.h"},
+        {"adapters/journal", {"platform", "quillmere"}, "fcntl\\.h|unistd\\.h|sys/file\\.h|sys/stat\\.h"},
         {"adapters/qt", {"platform", "quillmere"}, "Q[A-Z]\\w*|Qt\\w+/\\w+(\\.h)?"},
     };
     return rows;

@@ -47,7 +47,7 @@ TEST(GuideTest, TheListingsAreTheFilesThatTheyName) {
             ++count;
         }
     }
-    EXPECT_EQ(count, 5U);
+    EXPECT_EQ(count, 6U);
 }
 
 std::string withoutListings(std::string document) {

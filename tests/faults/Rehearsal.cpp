@@ -83,7 +83,7 @@ std::optional<Error> Rehearsal::reopen(const std::string& id) {
 
 std::optional<Error> Rehearsal::run(std::int16_t operationType, std::string id) {
     IUserCtrl host;
-    host.setConnection(connection_);
+    host.setConnection(around ? around(connection_) : connection_);
     host.setOperationType(operationType);
     host.setZZtype(deed_.zzType);
     host.setPersonID(std::move(id));

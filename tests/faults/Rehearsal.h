@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -90,6 +91,9 @@ public:
     int failAt = 0;
     /// Run behind the window's back, right before the deed.
     Lines beforehand;
+    /// What a host puts around its connection before it hands it over; nothing when it is empty.
+    using Around = std::function<std::shared_ptr<data::Connection>(std::shared_ptr<data::Connection>)>;
+    Around around;
     /// Whether the deed is done, and done once more.
     bool acts = true;
     bool actsAgain = false;

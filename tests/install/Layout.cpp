@@ -3,6 +3,7 @@
 #include <quillmere/Connection.h>
 #include <quillmere/Error.h>
 #include <quillmere/IUserCtrl.h>
+#include <quillmere/Journal.h>
 #include <quillmere/Qt.h>
 
 #include <cstddef>
@@ -34,6 +35,7 @@ int main() {
     tell<quillmere::data::Connection>("quillmere::data::Connection");
     tell<quillmere::data::RowSet>("quillmere::data::RowSet");
     tell<quillmere::data::Value>("quillmere::data::Value");
+    tell<quillmere::JournalOptions>("quillmere::JournalOptions");
     tell<quillmere::qt::Toolkit>("quillmere::qt::Toolkit");
     tell<quillmere::qt::ToolkitOptions>("quillmere::qt::ToolkitOptions");
     tellPlace("quillmere::data::Connection::query", &quillmere::data::Connection::query);

@@ -13,8 +13,10 @@
 #include <QFile>
 #include <QImage>
 #include <QLabel>
+#include <QMenu>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QToolButton>
 
 #include <gtest/gtest.h>
 
@@ -61,6 +63,7 @@ TEST_F(RegisterProgramTest, ReadsTheCommandLine) {
     EXPECT_EQ(line.unitCode, QStringLiteral("0104"));
     EXPECT_FALSE(line.help);
     EXPECT_EQ(parsed({"--panels", "shots"}).panels, QStringLiteral("shots"));
+    EXPECT_EQ(parsed({"--journal", "r.journal", "r.db"}).journal, QStringLiteral("r.journal"));
     EXPECT_TRUE(parsed({"--help"}).help);
     const CommandLine shots = parsed({"--panels", "shots", "--skin", "dark.qss", "--size", "1366x768"});
     EXPECT_EQ(shots.complaint, QString());
@@ -76,6 +79,9 @@ TEST_F(RegisterProgramTest, RefusesACommandLineThatItDoesNotKnow) {
     EXPECT_EQ(parsed({"--tour", ""}).complaint, QStringLiteral("--tour 后面缺少内容"));
     EXPECT_EQ(parsed({"--tour", "a", "--panels", "b"}).complaint,
               QStringLiteral("--tour 和 --panels 不能同时用"));
+    for (const char* unattended : {"--tour", "--panels"})
+        EXPECT_EQ(parsed({unattended, "a", "--journal", "b"}).complaint,
+                  QStringLiteral("--journal 不能和 --tour、--panels 同时用"));
     for (const char* size : {"1366", "1366x", "0x768", "1366x768x2", "wide"}) {
         EXPECT_EQ(parsed({"--panels", "shots", "--size", size}).complaint,
                   QStringLiteral("--size 后面应是 宽x高，例如 1366x768"))
@@ -142,6 +148,25 @@ TEST_F(RegisterProgramTest, ARegisterThatOpensIsTheOneOfTheNextStart) {
     onceRunning([](QWidget& window) { window.close(); }, "register");
     EXPECT_EQ(work(line), 0);
     EXPECT_EQ(Memory::lastRegister(), line.database);
+}
+
+TEST_F(RegisterProgramTest, WhatIsChangedIsKeptInTheJournal) {
+    CommandLine line;
+    line.database = path("register.db");
+    line.journal = path("register.journal");
+    sample::buildFile(line.database.toStdString(), {.persons = 1, .units = 0}, false);
+    onceRunning(
+        [](QWidget& window) {
+            window.findChild<QToolButton*>("newRecord")->menu()->actions().last()->trigger();
+            window.close();
+        },
+        "register");
+    EXPECT_EQ(work(line), 0);
+    QFile journal(line.journal);
+    ASSERT_TRUE(journal.open(QIODevice::ReadOnly));
+    const QByteArray kept = journal.readAll();
+    EXPECT_TRUE(kept.contains("update ZZStyle set ZZType=")) << kept.toStdString();
+    EXPECT_TRUE(kept.contains(" register.db\n")) << kept.toStdString();
 }
 
 TEST_F(RegisterProgramTest, TheTourLeavesAPictureOfEachStopAndTheRegisterAsItWas) {

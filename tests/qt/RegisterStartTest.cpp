@@ -32,7 +32,7 @@ protected:
     /// What is told of a file that does not open.
     [[nodiscard]] static Problem problemOf(const QString& file) {
         try {
-            (void)openRegister(file, {}, false);
+            (void)openRegister(file, {});
         } catch (const std::exception& failure) {
             return problemWith(file, failure);
         }
@@ -70,14 +70,14 @@ TEST_F(RegisterStartTest, AFileWithoutPermissionIsToldAsThat) {
     if (geteuid() == 0) GTEST_SKIP() << "root may read and write every file";
     sample::buildFile(path("register.db").toStdString(), {.persons = 1, .units = 0}, false);
     QFile::setPermissions(path("register.db"), QFileDevice::ReadOwner);
-    EXPECT_TRUE(openRegister(path("register.db"), {}, false)->findChild<QLabel*>("notice") != nullptr);
+    EXPECT_TRUE(openRegister(path("register.db"), {})->findChild<QLabel*>("notice") != nullptr);
     QFile::setPermissions(path("register.db"), {});
     EXPECT_EQ(problemOf(path("register.db")).title, QStringLiteral("没有权限读取登记库"));
 }
 
 TEST_F(RegisterStartTest, ARegisterThatMayBeWrittenShowsNoNotice) {
     sample::buildFile(path("register.db").toStdString(), {.persons = 1, .units = 0}, false);
-    EXPECT_EQ(openRegister(path("register.db"), {}, false)->findChild<QLabel*>("notice"), nullptr);
+    EXPECT_EQ(openRegister(path("register.db"), {})->findChild<QLabel*>("notice"), nullptr);
 }
 
 TEST_F(RegisterStartTest, AChosenFileIsHandedOver) {
@@ -98,7 +98,7 @@ TEST_F(RegisterStartTest, TheSampleIsMadeAndHandedOver) {
     EXPECT_FALSE(start.findChild<QPushButton*>("openFile")->isEnabled());
     ASSERT_TRUE(test::waitUntil([this] { return !chosen.isEmpty(); }));
     EXPECT_EQ(chosen, QStringList({place}));
-    const auto window = openRegister(place, {}, false);
+    const auto window = openRegister(place, {});
     EXPECT_EQ(window->findChild<QLabel*>("count")->text(), QStringLiteral("共 200 人"));
 }
 

@@ -1,7 +1,5 @@
 #include "support/ScriptedPerson.h"
 
-#include "platform/text/Text.h"
-
 #include <gtest/gtest.h>
 
 #include <utility>
@@ -82,11 +80,6 @@ std::string ScriptedPerson::choose(const ui::FileDialog& dialog) {
     std::string path = std::move(files_.front());
     files_.pop_front();
     return path;
-}
-
-void typeText(ui::Form& form, std::string_view text) {
-    for (const char32_t character : text::decode(text))
-        form.typeCharacter(character);
 }
 
 } // namespace quillmere::test

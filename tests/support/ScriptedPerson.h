@@ -2,6 +2,7 @@
 
 #include "platform/Error.h"
 #include "platform/ui/ScreenlessDesktop.h"
+#include "support/Typing.h"
 
 #include <deque>
 #include <functional>
@@ -78,9 +79,6 @@ private:
     std::vector<std::string> opened_;
     int beeps_ = 0;
 };
-
-/// Types each character of a text into the control that has the focus.
-void typeText(ui::Form& form, std::string_view text);
 
 /// The control of that name on the form or on a user control of it, as a T. Raises ItemNotFound when
 /// there is none and TypeMismatch when it is of another kind.

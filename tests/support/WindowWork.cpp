@@ -1,7 +1,7 @@
 #include "support/WindowWork.h"
 
 #include "platform/ui/VerticalMenu.h"
-#include "support/ScriptedPerson.h"
+#include "support/Typing.h"
 
 namespace quillmere::test {
 
