@@ -13,7 +13,8 @@ public:
     BareEngine& operator=(const BareEngine&) = delete;
     virtual ~BareEngine() = default;
 
-    /// Runs each statement to its end and drops what it yields. Raises std::runtime_error.
+    /// Runs each statement to its end and reads every value that it yields where the engine holds it: no
+    /// client could do with less. None is kept. Raises std::runtime_error.
     virtual void run(std::span<const std::string> statements) = 0;
 };
 

@@ -1,7 +1,9 @@
 #include "BareSqlite.h"
 
+#include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
+#include <cstdint>
 #include <stdexcept>
 
 namespace quillmere::bench {
@@ -18,6 +20,28 @@ void lengthOf(sqlite3_context* context, int /*count*/, sqlite3_value** arguments
     for (; *byte != 0; ++byte)
         length += (*byte & 0xC0U) != 0x80U ? 1 : 0;
     sqlite3_result_int(context, length);
+}
+
+/// How much there was to read.
+std::int64_t readRow(sqlite3_stmt* statement) {
+    std::int64_t read = 0;
+    const int columns = sqlite3_column_count(statement);
+    for (int i = 0; i < columns; ++i) {
+        switch (sqlite3_column_type(statement, i)) {
+        case SQLITE_NULL:
+            break;
+        case SQLITE_INTEGER:
+            read += sqlite3_column_int64(statement, i);
+            break;
+        case SQLITE_FLOAT:
+            read += static_cast<std::int64_t>(sqlite3_column_double(statement, i));
+            break;
+        default:
+            benchmark::DoNotOptimize(sqlite3_column_text(statement, i));
+            read += sqlite3_column_bytes(statement, i);
+        }
+    }
+    return read;
 }
 
 } // namespace
@@ -43,9 +67,9 @@ void BareSqlite::run(std::span<const std::string> statements) {
                                nullptr) != SQLITE_OK) {
             raise(database_.get());
         }
-        int code = SQLITE_ROW;
-        while (code == SQLITE_ROW)
-            code = sqlite3_step(statement);
+        int code = sqlite3_step(statement);
+        for (; code == SQLITE_ROW; code = sqlite3_step(statement))
+            benchmark::DoNotOptimize(readRow(statement));
         sqlite3_finalize(statement);
         if (code != SQLITE_DONE) raise(database_.get());
     }

@@ -1,48 +1,62 @@
 #include "Comparison.h"
 
-#include <algorithm>
-#include <chrono>
-#include <cstdio>
-#include <string>
+#include "Times.h"
+
 #include <vector>
 
 namespace quillmere::bench {
 
 namespace {
 
-double microsecondsOf(const std::function<void()>& work) {
-    const auto begun = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - begun).count();
-}
+/// One side of the comparison.
+class Side {
+public:
+    explicit Side(std::function<void(const Turn&)> run) : run_(std::move(run)) {}
 
-double median(std::vector<double>& times) {
-    const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
-    std::ranges::nth_element(times, middle);
-    return *middle;
-}
+    void warmUp(const Work& work, const Turn& turn) { (void)once(work, turn); }
+    double measure(const Work& work, const Turn& turn) {
+        times_.push_back(once(work, turn));
+        return times_.back();
+    }
+    [[nodiscard]] double median() const { return medianOf(times_); }
+
+private:
+    double once(const Work& work, const Turn& turn) {
+        const double taken = microsecondsOf([&] { run_(turn); });
+        work.after();
+        return taken;
+    }
+
+    std::function<void(const Turn&)> run_;
+    std::vector<double> times_;
+};
 
 } // namespace
 
-Comparison compare(int rounds, const std::function<void()>& system, const std::function<void()>& bareEngine) {
-    // The first rounds fill the caches of both.
-    for (int i = 0; i < rounds / 10 + 1; ++i) {
-        system();
-        bareEngine();
+void compare(benchmark::State& state, BareEngine& engine, const Work& work) {
+    Side system([](const Turn& turn) { turn.system(); });
+    Side bare([&](const Turn& turn) { engine.run(turn.statements); });
+    // The first run of each turn fills the caches of both.
+    for (const Turn& turn : work.turns) {
+        work.before();
+        system.warmUp(work, turn);
+        bare.warmUp(work, turn);
     }
-    std::vector<double> systemTimes;
-    std::vector<double> bareTimes;
-    for (int i = 0; i < rounds; ++i) {
-        systemTimes.push_back(microsecondsOf(system));
-        bareTimes.push_back(microsecondsOf(bareEngine));
+    std::size_t round = 0;
+    for ([[maybe_unused]] auto _ : state) {
+        const Turn& turn = work.turns[round % work.turns.size()];
+        // By the lap too, else an even number of turns would give each turn one order.
+        const bool bareFirst = (round / work.turns.size() + round) % 2 == 1;
+        ++round;
+        work.before();
+        if (bareFirst) (void)bare.measure(work, turn);
+        state.SetIterationTime(system.measure(work, turn) / 1e6);
+        if (!bareFirst) (void)bare.measure(work, turn);
     }
-    return {median(systemTimes), median(bareTimes)};
-}
-
-void print(std::string_view what, std::size_t statements, const Comparison& comparison) {
-    std::printf("%s: %zu statements, system %.0f us, bare engine %.0f us, ratio %.2f\n",
-                std::string(what).c_str(), statements, comparison.system, comparison.bareEngine,
-                comparison.ratio());
+    state.counters["ours"] = system.median();
+    state.counters["bare"] = bare.median();
+    state.counters["ratio"] = system.median() / bare.median();
+    state.counters["statements"] = static_cast<double>(work.turns.front().statements.size());
 }
 
 } // namespace quillmere::bench

@@ -1,23 +1,16 @@
 #pragma once
 
-#include <functional>
-#include <string_view>
+#include "BareEngine.h"
+#include "Work.h"
+
+#include <benchmark/benchmark.h>
 
 namespace quillmere::bench {
 
-/// How long the system takes for a piece of work, and how long the bare engine takes for the same
-/// statements: medians, in microseconds.
-struct Comparison {
-    double system = 0;
-    double bareEngine = 0;
-
-    [[nodiscard]] double ratio() const { return system / bareEngine; }
-};
-
-/// Runs both by turns, so that whatever else the machine does falls on both alike.
-[[nodiscard]] Comparison compare(int rounds, const std::function<void()>& system,
-                                 const std::function<void()>& bareEngine);
-
-void print(std::string_view what, std::size_t statements, const Comparison& comparison);
+/// Runs the work on the system and its statements on the bare engine, by turns in one process, so that
+/// whatever else the machine does falls on both alike; either goes first as often as the other. The counters
+/// of `state` become: `ours` and `bare`, the medians in microseconds; `ratio`, the one by the other;
+/// `statements` of the first turn. The benchmark's own time is that of the system.
+void compare(benchmark::State& state, BareEngine& engine, const Work& work);
 
 } // namespace quillmere::bench

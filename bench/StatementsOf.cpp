@@ -1,5 +1,7 @@
 #include "StatementsOf.h"
 
+#include <algorithm>
+
 namespace quillmere::bench {
 
 std::vector<std::string> statementsOf(data::RecordingConnection& connection,
@@ -9,6 +11,11 @@ std::vector<std::string> statementsOf(data::RecordingConnection& connection,
     action();
     connection.keepStatements(false);
     return connection.statements();
+}
+
+std::size_t countStarting(const std::vector<std::string>& statements, std::string_view beginning) {
+    return static_cast<std::size_t>(std::ranges::count_if(
+        statements, [&](const std::string& sql) { return sql.starts_with(beginning); }));
 }
 
 } // namespace quillmere::bench

@@ -2,6 +2,7 @@
 
 #include "adapters/postgresql/ConnectionString.h"
 
+#include <benchmark/benchmark.h>
 #include <libpq-fe.h>
 
 #include <stdexcept>
@@ -28,11 +29,15 @@ BareServer::BareServer(const std::string& address) {
 
 void BareServer::run(std::span<const std::string> statements) {
     for (const std::string& sql : statements) {
-        const std::unique_ptr<PGresult, decltype(&PQclear)> result(PQexec(connection_.get(), sql.c_str()),
-                                                                   PQclear);
+        const std::unique_ptr<PGresult, decltype(&PQclear)> result(
+            PQexecParams(connection_.get(), sql.c_str(), 0, nullptr, nullptr, nullptr, nullptr, 0), PQclear);
         const ExecStatusType status = PQresultStatus(result.get());
         if (status != PGRES_COMMAND_OK && status != PGRES_TUPLES_OK)
             throw std::runtime_error(PQerrorMessage(connection_.get()));
+        for (int row = 0; row < PQntuples(result.get()); ++row) {
+            for (int column = 0; column < PQnfields(result.get()); ++column)
+                benchmark::DoNotOptimize(*PQgetvalue(result.get(), row, column));
+        }
     }
 }
 

@@ -8,7 +8,7 @@ struct pg_conn;
 
 namespace quillmere::bench {
 
-/// libpq itself, with one call for each statement.
+/// libpq itself, with one call for each statement, by the protocol that takes no second one with it.
 class BareServer final : public BareEngine {
 public:
     /// With the options of the system's own connection, else the statements would mean something else.
