@@ -1,0 +1,3 @@
+// Its headers are compiled for all tests.
+
+int main() { return 0; }
