@@ -49,6 +49,7 @@ private:
 std::vector<FieldPlace> placesFor(const std::vector<bool>& wide, int columns, bool corner) {
     Dealer dealer(columns, corner);
     std::vector<FieldPlace> places;
+    places.reserve(wide.size());
     for (const bool isWide : wide)
         places.push_back(isWide ? dealer.wholeRows() : dealer.next());
     return places;
