@@ -22,6 +22,8 @@ const std::string texts[] = {
     "x' /*"s,
     "',P0204='x"s,
     "x');delete from P01"s,
+    "x',P0204=$a(')--"s,
+    "x'||E'\\''--"s,
     "\""s,
     "]"s,
     // Wildcards, escapes, and characters that a terminal or a log would act on.
