@@ -34,7 +34,9 @@ void passesRightly(const InputRule& rule, const cFieldItem& field, const std::st
     const bool isText = text::lower(field.FieldType) == "varchar";
     if (rule.kind == RuleKind::Between && isText) {
         hold(text >= arguments.at(0), "what passes rule B is not below the lower bound");
-        hold(text <= arguments.at(1) || field.FieldLength == "4", "nor above the upper one");
+        // A year has five years from now for its upper bound.
+        const bool isYear = convert::toDouble(field.FieldLength) == 4;
+        hold(text <= arguments.at(1) || isYear, "nor above the upper one");
     }
 }
 
