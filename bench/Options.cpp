@@ -1,6 +1,7 @@
 #include "Options.h"
 
-#include <charconv>
+#include "platform/convert/PlainNumber.h"
+
 #include <stdexcept>
 
 namespace quillmere::bench {
@@ -8,11 +9,9 @@ namespace quillmere::bench {
 namespace {
 
 std::size_t numberOf(std::string_view text) {
-    std::size_t number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc{} || end != text.data() + text.size())
-        throw std::invalid_argument("not a number: " + std::string(text));
-    return number;
+    const auto number = convert::plainNumber<std::size_t>(text);
+    if (!number) throw std::invalid_argument("not a number: " + std::string(text));
+    return *number;
 }
 
 std::vector<std::size_t> numbersOf(std::string_view list) {

@@ -2,10 +2,10 @@
 
 #include "platform/convert/DateTime.h"
 #include "platform/convert/Format.h"
+#include "platform/convert/PlainNumber.h"
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <optional>
 
 namespace quillmere::recovery {
@@ -40,10 +40,8 @@ constexpr std::array values{ValueRow{"--table", Command::List, &Arguments::table
                             ValueRow{"--since", Command::List, &Arguments::since}};
 
 std::optional<std::uint64_t> entryNumber(std::string_view word) {
-    std::uint64_t number = 0;
-    const auto [end, failure] = std::from_chars(word.data(), word.data() + word.size(), number);
-    if (failure != std::errc() || end != word.data() + word.size() || number == 0) return std::nullopt;
-    return number;
+    const auto number = convert::plainNumber<std::uint64_t>(word);
+    return number == std::uint64_t{0} ? std::nullopt : number;
 }
 
 /// Reads the words one after the other.

@@ -6,6 +6,7 @@
 #include "faults/RunTest.h"
 #include "journal/Program.h"
 
+#include <algorithm>
 #include <sstream>
 
 namespace quillmere::recovery {
@@ -45,6 +46,12 @@ protected:
     /// Past the journal.
     void executeUnseen(std::string_view sql) const { connect()->execute(sql); }
     [[nodiscard]] Lines rows() const { return test::allRows(*connect()); }
+    /// Without regard to their order: a row that comes back stands elsewhere.
+    [[nodiscard]] Lines sortedRows() const {
+        Lines sorted = rows();
+        std::ranges::sort(sorted);
+        return sorted;
+    }
     [[nodiscard]] Lines linesOf(std::string_view sql) const {
         return journal::linesOf(connect()->query(sql));
     }

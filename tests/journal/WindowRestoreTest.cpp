@@ -17,7 +17,7 @@ protected:
 
 TEST_F(WindowRestore, AnEditThatWasGivenUpAfterAComplaint) {
     requireSchool();
-    const Lines before = rows();
+    const Lines before = sortedRows();
     person.answerAnyBox(ui::Answer::No);
     work([](frmPersonWh& window) {
         open(window, test::studiesItem);
@@ -32,11 +32,7 @@ TEST_F(WindowRestore, AnEditThatWasGivenUpAfterAComplaint) {
     EXPECT_TRUE(contains(listed.out, "删除")) << listed.out;
     const Outcome restored = restore({entryThatDeleted("A02")});
     EXPECT_EQ(restored.status, Status::Done) << restored.complaints;
-    Lines after = rows();
-    std::ranges::sort(after);
-    Lines expected = before;
-    std::ranges::sort(expected);
-    EXPECT_EQ(after, expected);
+    EXPECT_EQ(sortedRows(), before);
 }
 
 TEST_F(WindowRestore, ARecordThatWasSavedOverStandsBesideTheNewOne) {
@@ -53,18 +49,14 @@ TEST_F(WindowRestore, ARecordThatWasSavedOverStandsBesideTheNewOne) {
 }
 
 TEST_F(WindowRestore, APersonWhoWasDeleted) {
-    const Lines before = rows();
+    const Lines before = sortedRows();
     person.answerAnyBox(ui::Answer::Yes);
     work([](frmPersonWh& window) { press(window, "Delete"); });
     EXPECT_EQ(linesOf("select A00 from A01"), Lines());
     const Outcome restored = restore({entryThatDeleted("A01"), entryThatDeleted("P01")});
     EXPECT_EQ(restored.status, Status::Done) << restored.complaints;
     EXPECT_TRUE(contains(restored.out, "恢复了 2 行"));
-    Lines after = rows();
-    std::ranges::sort(after);
-    Lines expected = before;
-    std::ranges::sort(expected);
-    EXPECT_EQ(after, expected);
+    EXPECT_EQ(sortedRows(), before);
     // And can be maintained again.
     work([](frmPersonWh& window) {
         open(window, test::studiesItem);

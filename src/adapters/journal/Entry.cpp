@@ -1,5 +1,6 @@
 #include "adapters/journal/Entry.h"
 
+#include "platform/convert/PlainNumber.h"
 #include "platform/data/Value.h"
 
 #include <array>
@@ -21,14 +22,6 @@ void addField(std::string& text, std::string_view name, std::string_view content
 
 void addNumber(std::string& text, std::string_view name, std::uint64_t number) {
     if (number != 0) addField(text, name, std::to_string(number));
-}
-
-template <class Number>
-std::optional<Number> numberOf(std::string_view text) {
-    Number number{};
-    const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (failure != std::errc() || end != text.data() + text.size()) return std::nullopt;
-    return number;
 }
 
 /// The shortest text that gives the very number back.
@@ -56,10 +49,10 @@ std::optional<data::Value> readValue(std::string_view text) {
     case 'b':
         return data::Value(content == "1");
     case 'i':
-        if (const auto number = numberOf<std::int64_t>(content)) return data::Value(*number);
+        if (const auto number = convert::plainNumber<std::int64_t>(content)) return data::Value(*number);
         return std::nullopt;
     case 'r':
-        if (const auto number = numberOf<double>(content)) return data::Value(*number);
+        if (const auto number = convert::plainNumber<double>(content)) return data::Value(*number);
         return std::nullopt;
     case 't':
         return data::Value(content);
@@ -78,7 +71,7 @@ std::optional<Field> takeField(std::string_view& text) {
     const std::size_t blank = text.find(' ');
     const std::size_t end = text.find('\n');
     if (blank == std::string_view::npos || end == std::string_view::npos || blank > end) return std::nullopt;
-    const auto length = numberOf<std::size_t>(text.substr(blank + 1, end - blank - 1));
+    const auto length = convert::plainNumber<std::size_t>(text.substr(blank + 1, end - blank - 1));
     if (!length || *length >= text.size() - end - 1 || text[end + 1 + *length] != '\n') return std::nullopt;
     const Field field{text.substr(0, blank), text.substr(end + 1, *length)};
     text.remove_prefix(end + 2 + *length);
@@ -102,7 +95,7 @@ public:
         } else if (std::string* text = textField(field.name)) {
             *text = field.content;
         } else if (std::uint64_t* number = numberField(field.name)) {
-            *number = numberOf<std::uint64_t>(field.content).value_or(0);
+            *number = convert::plainNumber<std::uint64_t>(field.content).value_or(0);
         }
         return true;
     }
@@ -190,7 +183,8 @@ std::optional<Outcome> readOutcome(std::string_view text) {
     while (!text.empty()) {
         const auto field = takeField(text);
         if (!field) return std::nullopt;
-        if (field->name == "entry") outcome.entry = numberOf<std::uint64_t>(field->content).value_or(0);
+        if (field->name == "entry")
+            outcome.entry = convert::plainNumber<std::uint64_t>(field->content).value_or(0);
         if (field->name == "failure") outcome.failure = std::string(field->content);
     }
     if (outcome.entry == 0) return std::nullopt;

@@ -1,11 +1,11 @@
 #include "adapters/postgresql/ResultRows.h"
 
+#include "platform/convert/PlainNumber.h"
 #include "platform/data/SelectItems.h"
 #include "platform/text/Text.h"
 
 #include <libpq-fe.h>
 
-#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -28,18 +28,10 @@ enum class Type : Oid {
     Numeric = 1700,
 };
 
-template <class Number>
-std::optional<Number> numberOf(std::string_view text) {
-    Number number{};
-    const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (failure != std::errc() || end != text.data() + text.size()) return std::nullopt;
-    return number;
-}
-
 /// A number as the text that the server shows: whole when it is written so. NaN and its like stay text.
 data::Value numberValue(std::string_view text) {
-    if (const auto whole = numberOf<std::int64_t>(text)) return *whole;
-    if (const auto real = numberOf<double>(text)) return *real;
+    if (const auto whole = convert::plainNumber<std::int64_t>(text)) return *whole;
+    if (const auto real = convert::plainNumber<double>(text)) return *real;
     return text;
 }
 
@@ -54,7 +46,7 @@ data::Value valueOf(Oid type, std::string_view text) {
         return numberValue(text);
     case Type::Real4:
     case Type::Real8:
-        if (const auto real = numberOf<double>(text)) return *real;
+        if (const auto real = convert::plainNumber<double>(text)) return *real;
         return text;
     default:
         return text;
